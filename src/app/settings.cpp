@@ -1,0 +1,8 @@
+#include "app/settings.h"
+
+Settings settings;
+
+float tickDistance()
+{
+    return settings.stepDistance > 0.0f ? settings.stepDistance : DEFAULT_STEP_DISTANCE;
+}

@@ -1,0 +1,29 @@
+#pragma once
+
+// What the user chooses outside a race. Kept in the file "settings" between runs.
+
+constexpr int LANGUAGE_GERMAN = 0;
+constexpr int LANGUAGE_ENGLISH = 1;
+constexpr int LANGUAGE_FRENCH = 2;
+constexpr int LANGUAGE_DUTCH = 3;
+constexpr int LANGUAGE_COUNT = 4;
+
+constexpr int DEFAULT_STEP_TIME = 0;
+constexpr float DEFAULT_STEP_DISTANCE = 10.0f;
+constexpr int DEFAULT_STEP_DELAY = 200;
+constexpr int SETTINGS_NUMBER_MAX = 999;
+
+struct Settings {
+    int language = LANGUAGE_ENGLISH;             // -1 while the pointer is on no language
+    int smoothMovement = 1;                      // 1 smooth, 0 stepwise
+    int stepTime = DEFAULT_STEP_TIME;            // ms between ticks of smooth movement, 0 to 999
+    float stepDistance = DEFAULT_STEP_DISTANCE;  // board units a tick, 0 to 999; 0 counts as default
+    int stepDelay = DEFAULT_STEP_DELAY;          // ms between stepwise ticks, 0 to 999
+    double ratioW = -1.0;                        // -1 and -1: no screen ratio chosen
+    double ratioH = -1.0;
+};
+
+extern Settings settings;
+
+// The length of one tick in board units, above 0: a stored 0 would never reach a square.
+float tickDistance();

@@ -1,0 +1,3 @@
+#include "app/view.h"
+
+View view;

@@ -1,0 +1,105 @@
+#pragma once
+
+#include "app/table.h"
+#include "board/section_shapes.h"
+#include "board/sections.h"
+#include "race/race_state.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+// The course of a race: the sections of the course string one behind the other on one long strip of
+// squares, so that a place is always one (row, lane) and ahead is always a larger row.
+
+constexpr int COURSE_MAX_ROWS = 5 * ROWS_PER_LAP;
+constexpr int COURSE_LANES = 23;
+constexpr int LANES_PER_LAP = 3; // each lap stands so many lanes further out
+constexpr int LAP_END_MAX = 5;
+constexpr int LINE_COUNT = SPRINT_COUNT + 1; // the sprints, then the finish
+
+using Grid = Table2<int, COURSE_MAX_ROWS, COURSE_LANES>;
+
+constexpr Grid gridOf(int value)
+{
+    return filled2<int, COURSE_MAX_ROWS, COURSE_LANES>(value);
+}
+
+struct CourseGrid {
+    Grid moveModifier = gridOf(NO_SQUARE);
+    Grid terrain = gridOf(TERRAIN_NONE);
+    Grid courseOccupant = gridOf(-1); // rider who stands on the square
+    Grid reach12 = gridOf(-1);        // furthest row from here with a throw of 12, riders left out
+    Grid reach11 = gridOf(-1);
+    Grid wallOnRight = gridOf(0);     // 1 where a barrier stops the change from lane to lane + 1
+    int courseRowCount = 0;           // rows in use; those behind are NO_SQUARE
+    Table<int, SPRINT_COUNT> sprintRows = filled<int, SPRINT_COUNT>(-1); // last row before the line
+    int finishRow = -1;
+    Table<int, LAP_END_MAX> lapEndRows = filled<int, LAP_END_MAX>(-1);
+    int lapEndCount = 0;
+    int lastClimbRow = 0;             // outlives the course: assembly doesn't reset it
+    Table<int, RIDER_COUNT> riderLapCount{};
+    std::vector<StraightPiece> courseStraights;
+    std::vector<CurvePiece> courseCurves;
+    std::vector<LaneBarrier> courseBarriers;
+};
+
+extern CourseGrid course;
+
+// Digits 0 to 8 are sections in driving order; "S" and "F" behind a digit put a sprint or the finish
+// at the end of that section. A course that is ready to race has two sections behind its "F".
+extern std::string courseText;
+
+// Builds grid, lines, laps and pieces of the course from courseText; nobody stands on it. The reach
+// tables stay empty: they are a search over the finished grid. A section that would not fit into
+// the grid is left out with all behind it, as is any character that is no part of a course.
+void assembleCourse();
+
+// Whether a text is a course that the designer could have made: a start section, successors in
+// order, at most the given marks, a finish, and 0 or 2 sections of run-out behind it.
+bool isCourse(std::string_view text);
+
+// First lane of the start grid, and the lane behind its last one. 0 to 5, or 4 to 8 on Start 2.
+int firstStartLane();
+int endStartLane();
+
+constexpr bool onGrid(int row, int lane)
+{
+    return row >= 0 && row < COURSE_MAX_ROWS && lane >= 0 && lane < COURSE_LANES;
+}
+
+// What moveModifier holds there; NO_SQUARE outside the grid.
+int squareAt(int row, int lane);
+
+// What terrain holds there; TERRAIN_NONE outside the grid.
+int terrainAt(int row, int lane);
+
+// The rider who stands on a printed square on any lap, or -1. So a rider about to lap another is
+// stopped by him. Outside the grid nobody stands.
+int occupantAt(int row, int lane);
+
+// The nearest row from `row` in direction step (1 or -1) whose square in this lane isn't
+// PASS_THROUGH; it may lie outside the grid.
+int skipPassThrough(int row, int lane, int step);
+
+// Row of line k: 0 to 2 the sprints, 3 the finish; -1 where the course has none.
+int lineRow(int line);
+
+// Terrain under a rider.
+int terrainOf(int rider);
+
+// Sets riderLapCount to the laps that lie behind the rider's row.
+void updateRiderLap(int rider);
+
+// Laps of a course, from 1. LAPS_DRIVEN counts the digits that end a lap, which limits a design;
+// LAPS_TITLED counts those that open one in front of the finish, which is what titles are shown for.
+enum LapCountMode { LAPS_DRIVEN = 0, LAPS_TITLED = 1 };
+int countCourseLaps(std::string_view text, LapCountMode mode);
+
+// The names of a lap's sections, and below them a mark under the last letter of each section that
+// ends in a sprint or the finish. Both empty for a lap behind the last.
+struct LapTitle {
+    std::string names;
+    std::string marks;
+};
+LapTitle courseLapTitle(std::string_view text, int lap);

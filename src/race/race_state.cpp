@@ -1,0 +1,4 @@
+#include "race/race_state.h"
+
+RaceState race;
+RaceSetup raceSetup;

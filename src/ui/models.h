@@ -1,0 +1,33 @@
+#pragma once
+
+#include "app/table.h"
+
+// Shapes that return on every frame, compiled into display lists from the layout of the moment.
+
+struct DisplayLists {
+    unsigned pawnDiscList = 0;
+    unsigned pawnBodyList = 0;
+    Table<unsigned, 6> pawnTopLists{}; // 0 flat outline, 1 to 4 the teams' figures, 5 the winner's
+    unsigned boardList = 0;
+    unsigned cardOuterList = 0;
+    unsigned cardFrameList = 0;
+    unsigned cardInnerList = 0;
+    unsigned dieList = 0;
+    unsigned pipList = 0;
+    unsigned scorecardList = 0;
+    unsigned scorecardInnerList = 0;
+    Table<unsigned, 9> sectionLists{}; // filled while loading
+    Table<unsigned, 4> courseLists{};  // likewise; entry c is fixed course c
+};
+
+extern DisplayLists lists;
+
+// Deletes the lists of an earlier layout and compiles all of them but sections and courses, whose
+// numbers are only reserved. Needs a GL context, the layout and the textures.
+void buildDisplayLists();
+
+enum PawnShape { PAWN_FLAT = 0, PAWN_STANDING = 1 };
+
+// Draws a rider's pawn at the origin of the current coordinates. scale is 1 or 0.7. With highlight
+// the last sprint winner stands out in yellow.
+void drawRider(int rider, PawnShape shape, bool showNumber, float scale, bool highlight);
