@@ -1,6 +1,7 @@
 #include "app/settings.h"
 
 Settings settings;
+Settings settingsBackup;
 
 float tickDistance()
 {

@@ -25,5 +25,8 @@ struct Settings {
 
 extern Settings settings;
 
+// What the settings were when their screen was opened: "Cancel" brings them back.
+extern Settings settingsBackup;
+
 // The length of one tick in board units, above 0: a stored 0 would never reach a square.
 float tickDistance();

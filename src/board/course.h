@@ -55,9 +55,6 @@ extern std::string courseText;
 // the grid is left out with all behind it, as is any character that is no part of a course.
 void assembleCourse();
 
-// Whether a text is a course that the designer could have made: a start section, successors in
-// order, at most the given marks, a finish, and 0 or 2 sections of run-out behind it.
-bool isCourse(std::string_view text);
 
 // First lane of the start grid, and the lane behind its last one. 0 to 5, or 4 to 8 on Start 2.
 int firstStartLane();
@@ -75,7 +72,8 @@ int squareAt(int row, int lane);
 int terrainAt(int row, int lane);
 
 // The rider who stands on a printed square on any lap, or -1. So a rider about to lap another is
-// stopped by him. Outside the grid nobody stands.
+// stopped by him. A place outside the grid holds nobody itself, but is looked up on the later laps:
+// behind row 0 lies the end of the first lap.
 int occupantAt(int row, int lane);
 
 // The nearest row from `row` in direction step (1 or -1) whose square in this lane isn't

@@ -1,0 +1,123 @@
+#include "ai/route_walk.h"
+
+#include "board/course.h"
+#include "race/step_rule.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace
+{
+
+// The largest budget with which a search has been on each square. Entries carry the number of their
+// search, so that a new one starts without clearing the table.
+struct Memo {
+    static constexpr int BUDGETS = 64;
+    Table2<int, COURSE_LANES, COURSE_MAX_ROWS> seen{};
+    int search = 0;
+
+    void begin()
+    {
+        if (search > std::numeric_limits<int>::max() - 2 * BUDGETS) {
+            seen = {};
+            search = 0;
+        }
+        search += BUDGETS;
+    }
+
+    // False if the square has been seen with at least this budget.
+    bool enter(Square at, int budget)
+    {
+        int& entry = seen[at.lane][at.row];
+        if (entry > search + budget)
+            return false;
+        entry = search + budget + 1;
+        return true;
+    }
+};
+
+struct Walk {
+    const RouteQuestion& question;
+    RouteBest& best;
+    Memo& memo;
+    Judge judge;
+    RoutePath path;
+};
+
+bool seeksTarget(const RouteQuestion& question)
+{
+    return question.target.row != -1;
+}
+
+void visit(Walk& walk, Square at, int budget);
+
+// True as soon as a target is found: the search is over.
+bool trySteps(Walk& walk, Square at, int budget)
+{
+    for (const char letter : STEP_LETTERS) {
+        if (stepTarget(at.row, at.lane, letter, walk.question.reachOnly) == NO_STEP)
+            continue;
+        walk.path.letters[walk.path.length++] = letter;
+        visit(walk, stepEntry(at.row, at.lane, letter), budget - 1);
+        if (seeksTarget(walk.question) && !walk.best.path.empty())
+            return true;
+        --walk.path.length;
+    }
+    return false;
+}
+
+void takeFurthest(RouteBest& best, Square at)
+{
+    if (at.row > best.row || (at.row == best.row && at.lane > best.lane)) {
+        best.row = at.row;
+        best.lane = at.lane;
+    }
+}
+
+// Squares at the end of the walk are judged first, the start square last. The comparison is no
+// strict order, so that this order of visiting decides the result.
+void visit(Walk& walk, Square at, int budget)
+{
+    const RouteQuestion& question = walk.question;
+    if (seeksTarget(question) && at == question.target) {
+        walk.best.path = walk.path;
+        return;
+    }
+    if (!onGrid(at.row, at.lane))
+        return;
+    if (course.moveModifier[at.row][at.lane] == PASS_THROUGH) {
+        visit(walk, {at.row + 1, at.lane}, budget);
+        return;
+    }
+    if (budget < 0 || !walk.memo.enter(at, budget))
+        return;
+    if (budget > 0 && trySteps(walk, at, budget))
+        return;
+    if (question.reachOnly)
+        takeFurthest(walk.best, at);
+    else if (!seeksTarget(question) && walk.judge)
+        walk.judge({.at = at, .budget = budget, .question = question}, walk.path, walk.best);
+}
+
+} // namespace
+
+void walkRoutes(Square from, int budget, const RouteQuestion& question, RouteBest& best,
+                Judge judge)
+{
+    // A walk to a target runs inside the judgement of squares and so has a table of its own.
+    static Memo judging;
+    static Memo seeking;
+    Memo& memo = seeksTarget(question) ? seeking : judging;
+    memo.begin();
+    Walk walk{.question = question, .best = best, .memo = memo, .judge = judge, .path = {}};
+    visit(walk, from, std::min(budget, PATH_LETTERS_MAX));
+}
+
+bool reachesSquare(int rider, Square from, Square target, int moves)
+{
+    if (!onGrid(target.row, target.lane))
+        return false;
+    RouteBest best;
+    walkRoutes(from, moves, {.rider = rider, .target = target}, best, nullptr);
+    return !best.path.empty();
+}

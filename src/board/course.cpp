@@ -1,0 +1,219 @@
+#include "board/course.h"
+
+#include <algorithm>
+
+CourseGrid course;
+std::string courseText;
+
+static constexpr int LAPS_LOOKED_THROUGH = 6;
+
+static bool isSection(char letter)
+{
+    return letter >= '0' && letter < '0' + SECTION_COUNT;
+}
+
+static const Section& sectionOf(char digit)
+{
+    return sections[digit - '0'];
+}
+
+static bool opensWith(std::string_view text, char digit)
+{
+    return !text.empty() && text.front() == digit;
+}
+
+// A lap ends where the loop comes by the start section again.
+static bool endsLap(std::string_view text, char digit)
+{
+    return opensWith(text, '0') ? digit == '5' || digit == '8' : digit == '3';
+}
+
+static void addPieces(int section, int firstRow, int laneShift)
+{
+    const auto rows = static_cast<float>(firstRow);
+    const auto lanes = static_cast<float>(laneShift);
+    for (StraightPiece piece : sectionShape(section).straights) {
+        piece.rowFrom += rows;
+        piece.rowTo += rows;
+        piece.laneFrom += lanes;
+        piece.laneTo += lanes;
+        course.courseStraights.push_back(piece);
+    }
+    for (CurvePiece piece : sectionShape(section).curves) {
+        piece.rowFrom += rows;
+        piece.rowTo += rows;
+        piece.laneFrom += lanes;
+        piece.laneTo += lanes;
+        course.courseCurves.push_back(piece);
+    }
+}
+
+static void addBarriers(const Section& section, int firstRow, int laneShift)
+{
+    for (LaneBarrier barrier : section.barriers) {
+        barrier.firstRow += firstRow;
+        barrier.endRow += firstRow;
+        barrier.lane += laneShift;
+        course.courseBarriers.push_back(barrier);
+        for (int row = barrier.firstRow; row < barrier.endRow; ++row)
+            course.wallOnRight[row][barrier.lane] = 1;
+    }
+}
+
+static bool fits(const Section& section, int laneShift)
+{
+    return course.courseRowCount + section.rowCount <= COURSE_MAX_ROWS &&
+           laneShift + SECTION_LANES <= COURSE_LANES;
+}
+
+static void addSectionRows(char digit, int laneShift)
+{
+    const Section& section = sectionOf(digit);
+    addPieces(digit - '0', course.courseRowCount, laneShift);
+    addBarriers(section, course.courseRowCount, laneShift);
+    for (int row = 0; row < section.rowCount; ++row) {
+        for (int lane = 0; lane < SECTION_LANES; ++lane) {
+            course.moveModifier[course.courseRowCount][lane + laneShift] =
+                section.moveModifier[row][lane];
+            course.terrain[course.courseRowCount][lane + laneShift] = section.terrain[row][lane];
+        }
+        ++course.courseRowCount;
+    }
+}
+
+static void markLapEnd(char digit)
+{
+    const bool startSection = digit == courseText.front();
+    if ((startSection || endsLap(courseText, digit)) && course.lapEndCount < LAP_END_MAX)
+        course.lapEndRows[course.lapEndCount++] = course.courseRowCount - 1;
+}
+
+void assembleCourse()
+{
+    static const CourseGrid EMPTY;
+    const int lastClimbRow = course.lastClimbRow;
+    course = EMPTY;
+    course.lastClimbRow = lastClimbRow;
+
+    int laneShift = 0;
+    int sprintCount = 0;
+    char before = '\0';
+    for (const char letter : courseText) {
+        if (letter == '1' && before != '0')
+            laneShift += LANES_PER_LAP;
+        before = letter;
+        const int lastRow = course.courseRowCount - 1;
+        if (letter == 'S' && sprintCount < SPRINT_COUNT)
+            course.sprintRows[sprintCount++] = lastRow;
+        if (letter == 'F')
+            course.finishRow = lastRow;
+        if (!isSection(letter))
+            continue;
+        if (!fits(sectionOf(letter), laneShift))
+            return;
+        addSectionRows(letter, laneShift);
+        markLapEnd(letter);
+        if ((letter == '2' || letter == '7') && course.finishRow == -1)
+            course.lastClimbRow = course.courseRowCount - 1;
+    }
+}
+
+int firstStartLane()
+{
+    return opensWith(courseText, '6') ? 4 : 0;
+}
+
+int endStartLane()
+{
+    return opensWith(courseText, '6') ? 8 : 5;
+}
+
+int squareAt(int row, int lane)
+{
+    return onGrid(row, lane) ? course.moveModifier[row][lane] : NO_SQUARE;
+}
+
+int terrainAt(int row, int lane)
+{
+    return onGrid(row, lane) ? course.terrain[row][lane] : TERRAIN_NONE;
+}
+
+// Rows r and r + 109, lanes l and l + 3, are the same printed square: a lap has 109 rows by either
+// way through the loop, and each lap stands three lanes further out.
+int occupantAt(int row, int lane)
+{
+    int lapRow = row % ROWS_PER_LAP;
+    int lapLane = lane - row / ROWS_PER_LAP * LANES_PER_LAP;
+    for (int lap = 0; lap < LAPS_LOOKED_THROUGH && lapRow < course.courseRowCount; ++lap) {
+        if (lapRow >= 0 && lapLane >= 0 && lapLane < COURSE_LANES) {
+            const int rider = course.courseOccupant[lapRow][lapLane];
+            if (rider != -1)
+                return rider;
+        }
+        lapRow += ROWS_PER_LAP;
+        lapLane += LANES_PER_LAP;
+    }
+    return -1;
+}
+
+int skipPassThrough(int row, int lane, int step)
+{
+    while (squareAt(row, lane) == PASS_THROUGH)
+        row += step;
+    return row;
+}
+
+int lineRow(int line)
+{
+    return line < SPRINT_COUNT ? course.sprintRows[line] : course.finishRow;
+}
+
+int terrainOf(int rider)
+{
+    return terrainAt(race.riders[rider].row, race.riders[rider].lane);
+}
+
+void updateRiderLap(int rider)
+{
+    int laps = 0;
+    for (int i = 0; i < course.lapEndCount; ++i)
+        laps += course.lapEndRows[i] < race.riders[rider].row;
+    course.riderLapCount[rider] = laps;
+}
+
+int countCourseLaps(std::string_view text, LapCountMode mode)
+{
+    if (mode == LAPS_DRIVEN)
+        return 1 + static_cast<int>(std::ranges::count_if(
+                       text, [text](char letter) { return endsLap(text, letter); }));
+    std::string_view inFront = text.substr(0, text.find('F'));
+    inFront.remove_prefix(std::min<std::size_t>(2, inFront.size()));
+    const auto opensLap = [text](char letter) {
+        return opensWith(text, '0') ? letter == '1' : letter == '4' || letter == '7';
+    };
+    return 1 + static_cast<int>(std::ranges::count_if(inFront, opensLap));
+}
+
+LapTitle courseLapTitle(std::string_view text, int lap)
+{
+    LapTitle title;
+    int current = 0;
+    for (std::size_t i = 0; i < text.size() && text[i] != 'F'; ++i) {
+        const char letter = text[i];
+        if (current == lap && isSection(letter)) {
+            title.names += sectionOf(letter).name;
+            title.marks.resize(title.names.size(), ' ');
+            if (i + 1 < text.size() && (text[i + 1] == 'S' || text[i + 1] == 'F'))
+                title.marks.back() = text[++i];
+        }
+        if (isSection(letter) && endsLap(text, letter) && ++current > lap)
+            break;
+        if (text[i] == 'F')
+            break;
+        if (current == lap && !title.names.empty()) {
+            title.names += '-';
+            title.marks += ' ';
+        }
+    }
+    return title;
+}

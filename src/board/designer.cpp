@@ -1,0 +1,3 @@
+#include "board/designer.h"
+
+CourseScreens courseScreens;

@@ -1,0 +1,8 @@
+#include "board/rider_motion.h"
+
+RiderMotion motion;
+
+void restMotion()
+{
+    motion = {};
+}

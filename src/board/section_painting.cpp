@@ -1,0 +1,272 @@
+#include "board/pictures.h"
+#include "board/section_shapes.h"
+#include "board/trig_tables.h"
+
+#include <algorithm>
+#include <cmath>
+
+Picture boardPicture{.width = BOARD_PICTURE_WIDTH, .height = BOARD_PICTURE_HEIGHT, .bytes = {}};
+Table<Picture, SECTION_COUNT> sectionPixels;
+Table<Picture, FIXED_COURSE_COUNT> coursePixels;
+
+namespace
+{
+
+constexpr std::uint8_t MASK_OUTSIDE = 0;
+constexpr std::uint8_t MASK_OUTLINE = 1; // of the piece in work
+constexpr std::uint8_t MASK_ROAD = 2;    // finished
+
+constexpr int LAST_COLUMN = BOARD_PICTURE_WIDTH - 1;
+constexpr int LAST_ROW = BOARD_PICTURE_HEIGHT - 1;
+constexpr float SWEEP_STEP = 0.05f; // radians between two points of a curve's outline
+
+struct Pixel {
+    int x = 0;
+    int y = 0;
+};
+
+struct Box {
+    int xMin = LAST_COLUMN;
+    int xMax = 0;
+    int yMin = LAST_ROW;
+    int yMax = 0;
+};
+
+// The road of one section, piece by piece, in the mirrored columns of the pictures.
+struct RoadMask {
+    std::vector<std::uint8_t> pixels =
+        std::vector<std::uint8_t>(BOARD_PICTURE_WIDTH * BOARD_PICTURE_HEIGHT, MASK_OUTSIDE);
+    Box box; // of the piece in work
+};
+
+std::uint8_t* maskPixel(RoadMask& mask, int x, int y)
+{
+    return mask.pixels.data() + y * BOARD_PICTURE_WIDTH + x;
+}
+
+Pixel pixelOf(float x, float y)
+{
+    return {LAST_COLUMN - static_cast<int>(x * 0.5240532241555783),
+            static_cast<int>(y * 0.4444444444444444)};
+}
+
+// Where the factors above fall short of a whole pixel, whole numbers don't.
+Pixel pixelOf(BoardPixel point)
+{
+    return {LAST_COLUMN - point.x * BOARD_PICTURE_WIDTH / 1954,
+            point.y * BOARD_PICTURE_HEIGHT / 1152};
+}
+
+void setOutline(RoadMask& mask, int x, int y)
+{
+    if (x >= 0 && x <= LAST_COLUMN && y >= 0 && y <= LAST_ROW)
+        *maskPixel(mask, x, y) = MASK_OUTLINE;
+}
+
+void growBox(Box& box, Pixel pixel)
+{
+    box.xMin = std::min(box.xMin, pixel.x);
+    box.xMax = std::max(box.xMax, pixel.x);
+    box.yMin = std::min(box.yMin, pixel.y);
+    box.yMax = std::max(box.yMax, pixel.y);
+}
+
+// One step of a line is a pixel along its longer side; from and to differ.
+BoardPoint lineStep(Pixel from, Pixel to)
+{
+    const int dx = to.x - from.x;
+    const int dy = to.y - from.y;
+    const int length = std::max(std::abs(dx), std::abs(dy));
+    return {static_cast<float>(dx) / static_cast<float>(length),
+            static_cast<float>(dy) / static_cast<float>(length)};
+}
+
+bool hasPassed(float position, int end, float step)
+{
+    const float last = static_cast<float>(end);
+    return step > 0.0f ? position > last : position < last;
+}
+
+// Draws with a pen of five pixels, a plus. The end is told from the x position unless the line is
+// upright.
+void markLine(RoadMask& mask, Pixel from, Pixel to)
+{
+    growBox(mask.box, from);
+    growBox(mask.box, to);
+    if (from.x == to.x && from.y == to.y) {
+        setOutline(mask, to.x, to.y);
+        return;
+    }
+    const BoardPoint step = lineStep(from, to);
+    float x = static_cast<float>(from.x);
+    float y = static_cast<float>(from.y);
+    while (step.x != 0.0f ? !hasPassed(x, to.x, step.x) : !hasPassed(y, to.y, step.y)) {
+        const Pixel at{static_cast<int>(x), static_cast<int>(y)};
+        setOutline(mask, at.x, at.y);
+        setOutline(mask, at.x - 1, at.y);
+        setOutline(mask, at.x + 1, at.y);
+        setOutline(mask, at.x, at.y - 1);
+        setOutline(mask, at.x, at.y + 1);
+        x += step.x;
+        y += step.y;
+    }
+}
+
+int countOutlineRuns(const std::uint8_t* pixel, int count, int stride)
+{
+    int runs = 0;
+    std::uint8_t before = MASK_OUTSIDE;
+    for (int i = 0; i < count; ++i, pixel += stride) {
+        if (*pixel == MASK_OUTLINE && before != MASK_OUTLINE)
+            ++runs;
+        before = *pixel;
+    }
+    return runs;
+}
+
+// Fills one column or row between each two runs of outline. An odd number of runs means that one is
+// a tangent or a corner: such a line is left to the pass in the other direction. Two ends of a half
+// turn that stand exactly above each other count as two runs too, so that the hollow of such a turn
+// gets a line as wide as the pen.
+void fillLine(std::uint8_t* pixel, int count, int stride)
+{
+    const int runs = countOutlineRuns(pixel, count, stride);
+    if (runs == 0 || runs % 2 != 0)
+        return;
+    bool inside = false;
+    std::uint8_t before = MASK_OUTSIDE;
+    for (int i = 0; i < count; ++i, pixel += stride) {
+        const std::uint8_t value = *pixel;
+        if (value == MASK_OUTLINE && before != MASK_OUTLINE)
+            inside = !inside;
+        if (value == MASK_OUTSIDE && inside)
+            *pixel = MASK_ROAD;
+        before = value;
+    }
+}
+
+// Fills the piece whose outline has been drawn, makes the outline road and starts the next piece.
+void fillOutline(RoadMask& mask)
+{
+    const int xMin = std::max(mask.box.xMin - 3, 0);
+    const int xMax = std::min(mask.box.xMax + 3, LAST_COLUMN);
+    const int yMin = std::max(mask.box.yMin - 3, 0);
+    const int yMax = std::min(mask.box.yMax + 3, LAST_ROW);
+    for (int x = xMin; x <= xMax; ++x)
+        fillLine(maskPixel(mask, x, yMin), yMax - yMin + 1, BOARD_PICTURE_WIDTH);
+    for (int y = yMin; y <= yMax; ++y)
+        fillLine(maskPixel(mask, xMin, y), xMax - xMin + 1, 1);
+    for (int y = yMin; y <= yMax; ++y) {
+        std::uint8_t* row = maskPixel(mask, 0, y);
+        std::replace(row + xMin, row + xMax + 1, MASK_OUTLINE, MASK_ROAD);
+    }
+    mask.box = {};
+}
+
+Pixel curvePixel(const CurvePiece& piece, float angle, bool atLaneTo)
+{
+    const int degree = static_cast<int>(static_cast<double>(angle) * 360 / 6.2831853 + 360) % 360;
+    const float radiusX = atLaneTo ? piece.radiusXTo : piece.radiusXFrom;
+    const float radiusY = atLaneTo ? piece.radiusYTo : piece.radiusYFrom;
+    return pixelOf(piece.centreX + cosTable[degree] * radiusX,
+                   piece.centreY + sinTable[degree] * radiusY);
+}
+
+void paintCurve(RoadMask& mask, const CurvePiece& piece)
+{
+    const float first = std::min(piece.angleFrom, piece.angleTo);
+    const float last = std::max(piece.angleFrom, piece.angleTo);
+    // Both sides close to the same corner; the line across the end draws what that leaves open.
+    const Pixel end = curvePixel(piece, last, true);
+    for (const bool atLaneTo : {false, true}) {
+        Pixel before = curvePixel(piece, first, atLaneTo);
+        for (float angle = first + SWEEP_STEP; angle <= last; angle += SWEEP_STEP) {
+            const Pixel at = curvePixel(piece, angle, atLaneTo);
+            markLine(mask, before, at);
+            before = at;
+        }
+        markLine(mask, before, end);
+    }
+    for (const float angle : {first, last})
+        markLine(mask, curvePixel(piece, angle, false), curvePixel(piece, angle, true));
+    fillOutline(mask);
+}
+
+void paintStraight(RoadMask& mask, const StraightPiece& piece)
+{
+    for (int k = 0; k < 4; ++k) {
+        const BoardPoint from = piece.corner[k];
+        const BoardPoint to = piece.corner[(k + 1) % 4];
+        markLine(mask, pixelOf(from.x, from.y), pixelOf(to.x, to.y));
+    }
+    fillOutline(mask);
+}
+
+void paintPolygon(RoadMask& mask, MaskPolygon polygon)
+{
+    for (std::size_t j = 0; j < polygon.size(); ++j) {
+        const BoardPixel to = polygon[(j + 1) % polygon.size()];
+        markLine(mask, pixelOf(polygon[j]),
+                 pixelOf(static_cast<float>(to.x), static_cast<float>(to.y)));
+    }
+    fillOutline(mask);
+}
+
+std::size_t pictureSize(int components)
+{
+    return static_cast<std::size_t>(BOARD_PICTURE_WIDTH * BOARD_PICTURE_HEIGHT * components);
+}
+
+} // namespace
+
+void paintSectionPicture(Picture& picture, int section)
+{
+    if (picture.bytes.size() != pictureSize(picture.components))
+        return;
+    RoadMask mask;
+    const SectionShape& shape = sectionShape(section);
+    for (const CurvePiece& piece : shape.curves)
+        paintCurve(mask, piece);
+    for (const StraightPiece& piece : shape.straights) {
+        if (piece.painted)
+            paintStraight(mask, piece);
+    }
+    for (const MaskPolygon& polygon : shape.masks)
+        paintPolygon(mask, polygon);
+
+    std::uint8_t* byte = picture.bytes.data();
+    for (const std::uint8_t value : mask.pixels) {
+        const int shift = value == MASK_OUTSIDE ? 1 : 0;
+        for (int i = 0; i < picture.components; ++i, ++byte)
+            *byte = static_cast<std::uint8_t>(*byte >> shift);
+    }
+}
+
+void mergeBrightest(Picture& target, const Picture& source)
+{
+    if (target.components != source.components || target.bytes.size() != source.bytes.size())
+        return;
+    const std::size_t step = static_cast<std::size_t>(target.components);
+    for (std::size_t i = 0; i + step <= target.bytes.size(); i += step) {
+        if (target.bytes[i] < source.bytes[i])
+            std::copy_n(source.bytes.begin() + static_cast<std::ptrdiff_t>(i), step,
+                        target.bytes.begin() + static_cast<std::ptrdiff_t>(i));
+    }
+}
+
+void paintSection(int section)
+{
+    sectionPixels[section] = boardPicture;
+    paintSectionPicture(sectionPixels[section], section);
+}
+
+void paintCourse(int index, std::string_view text)
+{
+    Picture& picture = coursePixels[index];
+    picture = {.width = BOARD_PICTURE_WIDTH, .height = BOARD_PICTURE_HEIGHT, .bytes = {}};
+    picture.bytes.assign(pictureSize(picture.components), 0);
+    for (const char character : text.substr(0, text.find('F'))) {
+        if (character >= '0' && character < '0' + SECTION_COUNT)
+            mergeBrightest(picture, sectionPixels[character - '0']);
+    }
+}
