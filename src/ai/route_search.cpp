@@ -21,15 +21,11 @@ constexpr int SEARCHED_ROWS = COURSE_MAX_ROWS - 20;  // no course comes near the
 // it follows from the row ahead alone.
 using ReachRow = Table2<int, COURSE_LANES, REACH_BUDGETS>;
 
-int furthestRow(int row, int lane, int budget, const ReachRow& ahead)
+// The best of a lane's budgets ahead also counts for this square, a move later.
+void reachThrough(Table<int, REACH_BUDGETS>& reach, const Table<int, REACH_BUDGETS>& ahead)
 {
-    int furthest = row;
-    if (budget == 0)
-        return furthest;
-    for (const char letter : STEP_LETTERS)
-        if (stepTarget(row, lane, letter, true) != NO_STEP)
-            furthest = std::max(furthest, ahead[stepEntry(row, lane, letter).lane][budget - 1]);
-    return furthest;
+    for (int budget = 1; budget < REACH_BUDGETS; ++budget)
+        reach[budget] = std::max(reach[budget], ahead[budget - 1]);
 }
 
 ReachRow reachOfRow(int row, const ReachRow& ahead)
@@ -40,8 +36,10 @@ ReachRow reachOfRow(int row, const ReachRow& ahead)
             reach[lane] = ahead[lane];
             continue;
         }
-        for (int budget = 0; budget < REACH_BUDGETS; ++budget)
-            reach[lane][budget] = furthestRow(row, lane, budget, ahead);
+        reach[lane] = filled<int, REACH_BUDGETS>(row);
+        for (const char letter : STEP_LETTERS)
+            if (stepTarget(row, lane, letter, true) != NO_STEP)
+                reachThrough(reach[lane], ahead[stepEntry(row, lane, letter).lane]);
     }
     return reach;
 }
@@ -51,7 +49,7 @@ ReachRow reachOfRow(int row, const ReachRow& ahead)
 void fillReachTables()
 {
     ReachRow reach = filled2<int, COURSE_LANES, REACH_BUDGETS>(-1);
-    for (int row = COURSE_MAX_ROWS - 1; row >= 0; --row) {
+    for (int row = std::min(course.courseRowCount, COURSE_MAX_ROWS - 1); row >= 0; --row) {
         reach = reachOfRow(row, reach);
         for (int lane = 0; lane < COURSE_LANES; ++lane) {
             const int modifier = course.moveModifier[row][lane];

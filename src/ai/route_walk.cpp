@@ -25,15 +25,10 @@ struct Memo {
         search += BUDGETS;
     }
 
-    // False if the square has been seen with at least this budget.
-    bool enter(Square at, int budget)
-    {
-        int& entry = seen[at.lane][at.row];
-        if (entry > search + budget)
-            return false;
-        entry = search + budget + 1;
-        return true;
-    }
+    // Whether the square has been seen with at least this budget.
+    bool knows(Square at, int budget) const { return seen[at.lane][at.row] > search + budget; }
+
+    void note(Square at, int budget) { seen[at.lane][at.row] = search + budget + 1; }
 };
 
 struct Walk {
@@ -51,14 +46,18 @@ bool seeksTarget(const RouteQuestion& question)
 
 void visit(Walk& walk, Square at, int budget);
 
-// True as soon as a target is found: the search is over.
+// True as soon as a target is found: the search is over. A square that is known with as many moves is
+// passed over before the dearer question whether the step is allowed.
 bool trySteps(Walk& walk, Square at, int budget)
 {
     for (const char letter : STEP_LETTERS) {
-        if (stepTarget(at.row, at.lane, letter, walk.question.reachOnly) == NO_STEP)
+        const Square entry = stepEntry(at.row, at.lane, letter);
+        const Square landing = {skipPassThrough(entry.row, entry.lane, 1), entry.lane};
+        if (!onGrid(landing.row, landing.lane) || walk.memo.knows(landing, budget - 1) ||
+            stepTarget(at.row, at.lane, letter, walk.question.reachOnly) == NO_STEP)
             continue;
         walk.path.letters[walk.path.length++] = letter;
-        visit(walk, stepEntry(at.row, at.lane, letter), budget - 1);
+        visit(walk, landing, budget - 1);
         if (seeksTarget(walk.question) && !walk.best.path.empty())
             return true;
         --walk.path.length;
@@ -83,14 +82,7 @@ void visit(Walk& walk, Square at, int budget)
         walk.best.path = walk.path;
         return;
     }
-    if (!onGrid(at.row, at.lane))
-        return;
-    if (course.moveModifier[at.row][at.lane] == PASS_THROUGH) {
-        visit(walk, {at.row + 1, at.lane}, budget);
-        return;
-    }
-    if (budget < 0 || !walk.memo.enter(at, budget))
-        return;
+    walk.memo.note(at, budget);
     if (budget > 0 && trySteps(walk, at, budget))
         return;
     if (question.reachOnly)
@@ -109,6 +101,8 @@ void walkRoutes(Square from, int budget, const RouteQuestion& question, RouteBes
     static Memo seeking;
     Memo& memo = seeksTarget(question) ? seeking : judging;
     memo.begin();
+    if (budget < 0 || !onGrid(from.row, from.lane))
+        return;
     Walk walk{.question = question, .best = best, .memo = memo, .judge = judge, .path = {}};
     visit(walk, from, std::min(budget, PATH_LETTERS_MAX));
 }

@@ -128,16 +128,6 @@ int endStartLane()
     return opensWith(courseText, '6') ? 8 : 5;
 }
 
-int squareAt(int row, int lane)
-{
-    return onGrid(row, lane) ? course.moveModifier[row][lane] : NO_SQUARE;
-}
-
-int terrainAt(int row, int lane)
-{
-    return onGrid(row, lane) ? course.terrain[row][lane] : TERRAIN_NONE;
-}
-
 // Rows r and r + 109, lanes l and l + 3, are the same printed square: a lap has 109 rows by either
 // way through the loop, and each lap stands three lanes further out.
 int occupantAt(int row, int lane)

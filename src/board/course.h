@@ -66,10 +66,16 @@ constexpr bool onGrid(int row, int lane)
 }
 
 // What moveModifier holds there; NO_SQUARE outside the grid.
-int squareAt(int row, int lane);
+inline int squareAt(int row, int lane)
+{
+    return onGrid(row, lane) ? course.moveModifier[row][lane] : NO_SQUARE;
+}
 
 // What terrain holds there; TERRAIN_NONE outside the grid.
-int terrainAt(int row, int lane);
+inline int terrainAt(int row, int lane)
+{
+    return onGrid(row, lane) ? course.terrain[row][lane] : TERRAIN_NONE;
+}
 
 // The rider who stands on a printed square on any lap, or -1. So a rider about to lap another is
 // stopped by him. A place outside the grid holds nobody itself, but is looked up on the later laps:

@@ -213,7 +213,7 @@ BoardPoint boardPointOnPath(float row, float lane, int rider)
 namespace
 {
 
-constexpr int SAMPLES_A_ROW = 32;
+constexpr int SAMPLES_A_ROW = 8;
 
 // Appends a point unless it is the last one again or lies behind it: where two pieces overlap by a
 // unit or two a rider doesn't step back.

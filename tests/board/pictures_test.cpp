@@ -1,0 +1,360 @@
+#include "board/pictures.h"
+#include "board/section_shapes.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <jpeglib.h>
+#include <sys/stat.h>
+
+namespace
+{
+
+using Bytes = std::vector<std::uint8_t>;
+
+constexpr int BLOCK = 8; // an even block of this size survives JPEG exactly
+
+struct Colour {
+    int red, green, blue;
+    friend bool operator==(const Colour&, const Colour&) = default;
+};
+
+// A JPEG of even blocks, coloured in turn. space is RGB, or grey or CMYK for files to be refused.
+Bytes jpegOf(int width, int height, const std::vector<Colour>& colours, J_COLOR_SPACE space)
+{
+    jpeg_compress_struct info;
+    jpeg_error_mgr errors;
+    info.err = jpeg_std_error(&errors);
+    jpeg_create_compress(&info);
+    unsigned char* data = nullptr;
+    unsigned long size = 0;
+    jpeg_mem_dest(&info, &data, &size);
+    info.image_width = static_cast<JDIMENSION>(width);
+    info.image_height = static_cast<JDIMENSION>(height);
+    info.input_components = space == JCS_GRAYSCALE ? 1 : space == JCS_CMYK ? 4 : 3;
+    info.in_color_space = space;
+    jpeg_set_defaults(&info);
+    jpeg_set_colorspace(&info, space);
+    jpeg_set_quality(&info, 100, TRUE);
+    jpeg_start_compress(&info, TRUE);
+    for (int y = 0; y < height; ++y) {
+        Bytes row;
+        for (int x = 0; x < width; ++x) {
+            const std::size_t block =
+                static_cast<std::size_t>(y / BLOCK * (width / BLOCK) + x / BLOCK);
+            const Colour colour = colours[block % colours.size()];
+            const int samples[] = {colour.red, colour.green, colour.blue, 0};
+            for (int i = 0; i < info.input_components; ++i)
+                row.push_back(static_cast<std::uint8_t>(samples[i]));
+        }
+        JSAMPROW rows[] = {row.data()};
+        jpeg_write_scanlines(&info, rows, 1);
+    }
+    jpeg_finish_compress(&info);
+    jpeg_destroy_compress(&info);
+    Bytes bytes(data, data + size);
+    std::free(data);
+    return bytes;
+}
+
+Bytes riderJpeg()
+{
+    return jpegOf(RIDER_PICTURE_SIZE, RIDER_PICTURE_SIZE,
+                  {{10, 20, 30}, {200, 100, 50}, {90, 0, 90}}, JCS_RGB);
+}
+
+// The colour at a column of the file, so counted from the right in the buffer.
+Colour colourAt(const Picture& picture, int fileColumn, int row)
+{
+    const int column = picture.width - 1 - fileColumn;
+    const std::size_t at =
+        static_cast<std::size_t>((row * picture.width + column) * picture.components);
+    return {picture.bytes[at], picture.bytes[at + 1], picture.bytes[at + 2]};
+}
+
+// A directory of its own to read from, gone with the test.
+class PictureFiles : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        char name[] = "/tmp/picturesXXXXXX";
+        folder = mkdtemp(name);
+    }
+    void TearDown() override { std::filesystem::remove_all(folder); }
+
+    std::string path() const { return folder + "/picture.dat"; }
+
+    void write(const Bytes& bytes) const
+    {
+        std::ofstream file(path(), std::ios::binary);
+        file.write(reinterpret_cast<const char*>(bytes.data()),
+                   static_cast<std::streamsize>(bytes.size()));
+    }
+
+    // Whether the file is refused, says so with its name, and leaves the picture alone.
+    std::string refusal() const
+    {
+        const Bytes before{1, 2, 3};
+        Picture picture{RIDER_PICTURE_SIZE, RIDER_PICTURE_SIZE, 3, before};
+        testing::internal::CaptureStderr();
+        const bool loaded = loadPicture(path().c_str(), picture, true);
+        const std::string message = testing::internal::GetCapturedStderr();
+        EXPECT_FALSE(loaded) << message;
+        EXPECT_EQ(picture.bytes, before);
+        EXPECT_EQ(picture.components, 3);
+        EXPECT_NE(message.find(path()), std::string::npos) << message;
+        EXPECT_EQ(std::count(message.begin(), message.end(), '\n'), 1) << message;
+        return message;
+    }
+
+    std::string folder;
+};
+
+TEST_F(PictureFiles, RowsAreMirroredAndStayInOrder)
+{
+    write(riderJpeg());
+    Picture picture{RIDER_PICTURE_SIZE, RIDER_PICTURE_SIZE, 3, {}};
+    ASSERT_TRUE(loadPicture(path().c_str(), picture, false));
+    ASSERT_EQ(picture.bytes.size(), 64u * 64u * 3u);
+    EXPECT_EQ(picture.bytes[0], colourAt(picture, 63, 0).red);
+    EXPECT_EQ(colourAt(picture, 0, 0), (Colour{10, 20, 30}));
+    EXPECT_EQ(colourAt(picture, 8, 0), (Colour{200, 100, 50}));
+    EXPECT_EQ(colourAt(picture, 63, 0), (Colour{200, 100, 50})); // block 7 of the first row
+    EXPECT_EQ(colourAt(picture, 0, 8), (Colour{90, 0, 90}));     // block 8 opens the second row
+}
+
+TEST_F(PictureFiles, KeyColourEndsExactly)
+{
+    write(jpegOf(RIDER_PICTURE_SIZE, RIDER_PICTURE_SIZE,
+                 {{230, 230, 25}, {255, 255, 0}, {229, 230, 25}, {230, 229, 25}, {230, 230, 26}},
+                 JCS_RGB));
+    Picture picture{RIDER_PICTURE_SIZE, RIDER_PICTURE_SIZE, 4, {}};
+    ASSERT_TRUE(loadPicture(path().c_str(), picture, true));
+    ASSERT_EQ(picture.bytes.size(), 64u * 64u * 4u);
+    const Colour kept[] = {{0, 0, 0}, {0, 0, 0}, {229, 230, 25}, {230, 229, 25}, {230, 230, 26}};
+    for (int block = 0; block < 5; ++block) {
+        const int column = block * BLOCK + 3;
+        EXPECT_EQ(colourAt(picture, column, 3), kept[block]) << block;
+        const std::size_t alpha = static_cast<std::size_t>((3 * 64 + 63 - column) * 4 + 3);
+        EXPECT_EQ(picture.bytes[alpha], block < 2 ? 0 : 255) << block;
+    }
+}
+
+TEST_F(PictureFiles, WhatIsNoReadableFileIsRefusedWithoutWaiting)
+{
+    EXPECT_EQ(refusal(), "can't open " + path() + "\n");
+    std::filesystem::create_directory(path());
+    refusal();
+    std::filesystem::remove(path());
+    ASSERT_EQ(mkfifo(path().c_str(), 0600), 0);
+    refusal();
+}
+
+TEST_F(PictureFiles, DamagedFilesAreRefused)
+{
+    const Bytes good = riderJpeg();
+    write({});
+    refusal();
+    write({0x89, 'P', 'N', 'G', '\r', '\n', 0x1A, '\n', 0, 0, 0, 13});
+    refusal();
+    for (const std::size_t kept : {good.size() / 8, good.size() / 2, good.size() - 2}) {
+        write(Bytes(good.begin(), good.begin() + static_cast<std::ptrdiff_t>(kept)));
+        refusal();
+    }
+}
+
+TEST_F(PictureFiles, OtherSizesAndColoursAreRefused)
+{
+    write(jpegOf(72, 64, {{1, 2, 3}}, JCS_RGB));
+    const std::string message = refusal();
+    EXPECT_NE(message.find("72 x 64"), std::string::npos) << message;
+    EXPECT_NE(message.find("64 x 64"), std::string::npos) << message;
+    write(jpegOf(64, 64, {{1, 2, 3}}, JCS_GRAYSCALE));
+    refusal();
+    write(jpegOf(64, 64, {{1, 2, 3}}, JCS_CMYK));
+    refusal();
+
+    Bytes huge = riderJpeg(); // announces 65500 by 65500
+    const std::uint8_t frame[] = {0xFF, 0xC0};
+    const auto at = std::search(huge.begin(), huge.end(), std::begin(frame), std::end(frame));
+    ASSERT_LT(at + 9, huge.end());
+    for (const int offset : {5, 7}) {
+        at[offset] = 0xFF;
+        at[offset + 1] = 0xDC;
+    }
+    write(huge);
+    EXPECT_NE(refusal().find("65500 x 65500"), std::string::npos);
+}
+
+TEST_F(PictureFiles, AnyBrokenByteIsHarmless)
+{
+    const Bytes good = riderJpeg();
+    for (std::size_t i = 0; i < good.size(); ++i) {
+        Bytes broken = good;
+        broken[i] = static_cast<std::uint8_t>(broken[i] ^ (i % 3 == 0 ? 0xFF : 1 << (i % 8)));
+        write(broken);
+        Picture picture{RIDER_PICTURE_SIZE, RIDER_PICTURE_SIZE, 3, {}};
+        testing::internal::CaptureStderr();
+        const bool loaded = loadPicture(path().c_str(), picture, true);
+        testing::internal::GetCapturedStderr();
+        EXPECT_EQ(picture.bytes.size(), loaded ? 64u * 64u * 4u : 0u) << "byte " << i;
+    }
+}
+
+// A slow and obvious view of a section's road: every piece that is to be bright as one polygon.
+std::vector<std::vector<BoardPoint>> brightPolygons(int section)
+{
+    const SectionShape& shape = sectionShape(section);
+    std::vector<std::vector<BoardPoint>> polygons;
+    for (const CurvePiece& piece : shape.curves) {
+        std::vector<BoardPoint>& polygon = polygons.emplace_back();
+        const auto addArc = [&](float from, float to, float radiusX, float radiusY) {
+            for (int i = 0; i <= 100; ++i) {
+                const float angle = from + (to - from) * static_cast<float>(i) / 100.0f;
+                polygon.push_back({piece.centreX + std::cos(angle) * radiusX,
+                                   piece.centreY + std::sin(angle) * radiusY});
+            }
+        };
+        addArc(piece.angleFrom, piece.angleTo, piece.radiusXFrom, piece.radiusYFrom);
+        addArc(piece.angleTo, piece.angleFrom, piece.radiusXTo, piece.radiusYTo);
+    }
+    for (const StraightPiece& piece : shape.straights) {
+        if (piece.painted)
+            polygons.emplace_back(piece.corner.begin(), piece.corner.end());
+    }
+    for (const MaskPolygon& mask : shape.masks) {
+        std::vector<BoardPoint>& polygon = polygons.emplace_back();
+        for (const BoardPixel point : mask)
+            polygon.push_back({static_cast<float>(point.x), static_cast<float>(point.y)});
+    }
+    return polygons;
+}
+
+bool isInside(const std::vector<BoardPoint>& polygon, float x, float y)
+{
+    bool inside = false;
+    for (std::size_t i = 0, j = polygon.size() - 1; i < polygon.size(); j = i++) {
+        const BoardPoint a = polygon[i];
+        const BoardPoint b = polygon[j];
+        if ((a.y > y) != (b.y > y) && x < (b.x - a.x) * (y - a.y) / (b.y - a.y) + a.x)
+            inside = !inside;
+    }
+    return inside;
+}
+
+// Every STEP-th pixel of the file in either direction: 1 if it lies on the road.
+constexpr int STEP = 4;
+constexpr int COLUMNS = BOARD_PICTURE_WIDTH / STEP;
+constexpr int ROWS = BOARD_PICTURE_HEIGHT / STEP;
+
+Table2<int, ROWS, COLUMNS> roadOf(int section)
+{
+    Table2<int, ROWS, COLUMNS> road{};
+    const auto polygons = brightPolygons(section);
+    for (int row = 0; row < ROWS; ++row) {
+        for (int column = 0; column < COLUMNS; ++column) {
+            const float x = (static_cast<float>(column * STEP) + 0.5f) * BOARD_WIDTH / 1024.0f;
+            const float y = (static_cast<float>(row * STEP) + 0.5f) * BOARD_HEIGHT / 512.0f;
+            road[row][column] = std::any_of(polygons.begin(), polygons.end(),
+                                            [&](const auto& p) { return isInside(p, x, y); });
+        }
+    }
+    return road;
+}
+
+constexpr std::uint8_t BRIGHT = 201;
+constexpr std::uint8_t DIM = 100; // half, cut off
+
+void paintAllOnPlainBoard()
+{
+    boardPicture.bytes.assign(BOARD_PICTURE_WIDTH * BOARD_PICTURE_HEIGHT * 3, BRIGHT);
+    for (int section = 0; section < SECTION_COUNT; ++section)
+        paintSection(section);
+}
+
+// The outline is drawn with a thick pen along whole degrees, so only what lies STEP pixels off
+// every edge is told for certain. Two oddities of the fill are allowed for: it misses a few single
+// pixels where the lines of a curve touch, and it fills the columns between the upright ends of B's
+// half turn.
+TEST(SectionPictures, RoadIsBrightAndTheRestIsDim)
+{
+    paintAllOnPlainBoard();
+    for (int section = 0; section < SECTION_COUNT; ++section) {
+        const auto road = roadOf(section);
+        int sure = 0, holes = 0, spills = 0;
+        for (int row = 1; row < ROWS - 1; ++row) {
+            for (int column = 1; column < COLUMNS - 1; ++column) {
+                int onRoad = 0;
+                for (const int near : {row - 1, row, row + 1})
+                    onRoad += road[near][column - 1] + road[near][column] + road[near][column + 1];
+                const int red = colourAt(sectionPixels[section], column * STEP, row * STEP).red;
+                ASSERT_TRUE(red == BRIGHT || red == DIM);
+                sure += onRoad == 9;
+                holes += onRoad == 9 && red == DIM;
+                spills += onRoad == 0 && red == BRIGHT;
+            }
+        }
+        EXPECT_GT(sure, 1000) << section;
+        EXPECT_LE(holes, 3) << section;
+        EXPECT_LE(spills, section == 3 ? 12 : 0) << section;
+    }
+}
+
+// Places on the sheet and the sections whose road they belong to.
+struct Place {
+    int x, y;
+    std::string_view sections;
+};
+
+// clang-format off
+constexpr Place PLACES[] = {
+    { 920,  118, "058"}, { 135,  750, "1"},  { 280, 1050, "1"}, { 400,  600, "2"}, { 800,  430, "2"},
+    { 530,  620, "3"},   {1060, 1055, "36"}, {1440, 1058, "47"}, {1828, 500, "4"}, {1520,   90, "5"},
+    { 600, 1080, "6"},   {1610,  460, "7"},  {1450,  700, "7"}, {1220,  440, "8"}, {1480,  290, "8"},
+    {1100,  700, ""},    { 300,  600, ""},
+};
+// clang-format on
+
+int brightnessAt(const Picture& picture, const Place& place)
+{
+    return colourAt(picture, place.x * BOARD_PICTURE_WIDTH / 1954,
+                    place.y * BOARD_PICTURE_HEIGHT / 1152)
+        .red;
+}
+
+TEST(SectionPictures, PlacesOfTheSheetBelongToTheirSections)
+{
+    paintAllOnPlainBoard();
+    for (const Place& place : PLACES) {
+        for (int section = 0; section < SECTION_COUNT; ++section) {
+            const bool bright =
+                place.sections.find(static_cast<char>('0' + section)) != place.sections.npos;
+            EXPECT_EQ(brightnessAt(sectionPixels[section], place), bright ? BRIGHT : DIM)
+                << place.x << ", " << place.y << " in section " << section;
+        }
+    }
+}
+
+TEST(CoursePictures, ShowTheSectionsUpToTheFinish)
+{
+    paintAllOnPlainBoard();
+    paintCourse(0, "64S5F12");
+    for (const Place& place : PLACES) {
+        const bool bright = place.sections.find_first_of("645") != place.sections.npos;
+        EXPECT_EQ(brightnessAt(coursePixels[0], place), bright ? BRIGHT : DIM)
+            << place.x << ", " << place.y;
+    }
+}
+
+TEST(CoursePictures, MergingComparesRedAlone)
+{
+    Picture target{3, 1, 3, {10, 200, 200, 10, 20, 30, 10, 1, 1}};
+    mergeBrightest(target, {3, 1, 3, {11, 0, 0, 10, 99, 99, 9, 255, 255}});
+    EXPECT_EQ(target.bytes, (Bytes{11, 0, 0, 10, 20, 30, 10, 1, 1}));
+}
+
+} // namespace

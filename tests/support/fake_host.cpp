@@ -1,0 +1,30 @@
+#include "support/fake_host.h"
+
+#include "app/host.h"
+#include "board/animation.h"
+
+FakeHost fakeHost;
+
+void installFakeHost()
+{
+    fakeHost = {};
+    moveTimerFired();
+    host = {.redraw = [] { ++fakeHost.redraws; },
+            .armTimer = [](int ms) { fakeHost.pendingMs = ms; }};
+}
+
+bool runTick()
+{
+    if (fakeHost.pendingMs < 0)
+        return false;
+    fakeHost.clock += fakeHost.pendingMs;
+    fakeHost.pendingMs = -1;
+    onMoveTimer(0);
+    return true;
+}
+
+void runTimer()
+{
+    while (runTick()) {
+    }
+}

@@ -1,0 +1,101 @@
+#include "support/races.h"
+
+#include "app/game_state.h"
+#include "app/settings.h"
+#include "app/view.h"
+#include "board/course.h"
+#include "board/rider_motion.h"
+#include "race/placing.h"
+#include "race/start.h"
+#include "race/turn_cycle.h"
+#include "support/fake_host.h"
+
+#include <cstdlib>
+
+static void resetProgram()
+{
+    installFakeHost();
+    settings = {};
+    raceSetup = {};
+    course = {};
+    race = {};
+    view = {};
+    motion = {};
+}
+
+void startSeededRace(std::string_view text, unsigned seed)
+{
+    resetProgram();
+    std::srand(seed);
+    courseText = text;
+    startRace();
+}
+
+static void leaveEveryoneOut()
+{
+    for (Rider& rider : race.riders) {
+        rider.row = course.finishRow + 1;
+        rider.lane = 0;
+        rider.finished = rider.hasMoved = 1;
+    }
+}
+
+void setUpRace(std::string_view text, std::initializer_list<Placed> placed)
+{
+    startSeededRace(text, 1);
+    leaveEveryoneOut();
+    for (const Placed& one : placed) {
+        Rider& rider = race.riders[one.rider];
+        rider.row = one.row;
+        rider.lane = one.lane;
+        rider.finished = 0;
+        rider.hasMoved = one.hasMoved;
+        course.courseOccupant[one.row][one.lane] = one.rider;
+    }
+    race.roundNumber = 2;
+    race.currentRider = -1;
+    race.teamThrow = filled<int, TEAM_COUNT>(2);
+    race.placingRow = race.placingLane = -1;
+    race.dice = race.playedCards = race.handInCards = filled<int, 2>(-1);
+    race.moveBudget = -1;
+    gameState = STATE_TRANSIT;
+}
+
+void makeHuman(int team)
+{
+    for (int place = 0; place < RIDERS_PER_TEAM; ++place)
+        race.riders[team * RIDERS_PER_TEAM + place].isHuman = 1;
+}
+
+void beginPersonsTurn(int rider)
+{
+    race.currentRider = rider;
+    const Rider& record = race.riders[rider];
+    course.courseOccupant[record.row][record.lane] = -1;
+    race.moveStartRow = static_cast<float>(record.row);
+    race.moveStartLane = static_cast<float>(record.lane);
+    view.shownTeam = riderTeam(rider);
+    gameState = STATE_TURN;
+}
+
+bool advanceComputerRace()
+{
+    switch (gameState) {
+    case STATE_ORDER_RESULT:
+        afterOrderThrow();
+        return true;
+    case STATE_NO_MOVE:
+        leaveRound();
+        return true;
+    case STATE_ANIMATE:
+        return runTick();
+    default:
+        return false;
+    }
+}
+
+void runComputerRace()
+{
+    while (advanceComputerRace()) {
+    }
+}

@@ -1,0 +1,209 @@
+#include "ui/glyphs.h"
+#include "ui/layout.h"
+#include "ui/manual_pages.h"
+#include "ui/text.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace
+{
+
+std::vector<int> bitsOf(const Glyph& glyph)
+{
+    const int bytes = (glyph.width + 7) / 8 * glyph.height;
+    return {glyph.bits.begin(), glyph.bits.begin() + bytes};
+}
+
+TEST(Measuring, QuotesTakeNoWidthAndOtherFontsCountCharacters)
+{
+    EXPECT_EQ(textWidth("Throw", FONT_BODY), 7 + 7 + 4 + 7 + 9);
+    EXPECT_EQ(textWidth("\"Throw\"", FONT_BODY), textWidth("Throw", FONT_BODY));
+    EXPECT_EQ(textWidth("\"OK\"", FONT_TITLE), 15 + 13);
+    EXPECT_EQ(textWidth("\"OK\"", FONT_FIXED), 24);
+    EXPECT_EQ(textWidth("iiii", FONT_SERIF), 24);
+}
+
+TEST(Measuring, EveryLetterHasAWidth)
+{
+    EXPECT_EQ(titleWidths[0xC0], titleWidths[0xC4]);
+    EXPECT_EQ(titleWidths[0xC8], titleWidths['E']); // listed nowhere: as the letter drawn for it
+    for (int code = 0x80; code < 0x100; ++code) {
+        EXPECT_GT(bodyWidths[code], 0) << code;
+        EXPECT_GT(titleWidths[code], 0) << code;
+    }
+}
+
+TEST(Glyphs, ArePackedFromTheBottomRowWithTheLeftPixelFirst)
+{
+    const Glyph* grave = findGlyph(0xE0, FONT_BODY);
+    ASSERT_NE(grave, nullptr);
+    EXPECT_EQ(bitsOf(*grave),
+              (std::vector<int>{0x74, 0x88, 0x88, 0x78, 0x08, 0x88, 0x70, 0, 0x20, 0x40, 0, 0}));
+
+    const Glyph* sharpS = findGlyph(0xDF, FONT_TITLE); // two bytes a row
+    ASSERT_NE(sharpS, nullptr);
+    EXPECT_EQ(sharpS->width, 11);
+    EXPECT_EQ(sharpS->height, 14);
+    const std::vector<int> bits = bitsOf(*sharpS);
+    EXPECT_EQ(std::vector<int>(bits.begin(), bits.begin() + 4),
+              (std::vector<int>{0xE7, 0x80, 0xE7, 0xC0}));
+    EXPECT_EQ(std::vector<int>(bits.end() - 2, bits.end()), (std::vector<int>{0x7F, 0}));
+}
+
+TEST(Glyphs, OnlyACedillaHangsBelowTheLine)
+{
+    EXPECT_EQ(findGlyph(0xE7, FONT_TITLE)->origin.y, 3);
+    EXPECT_EQ(findGlyph(0xE7, FONT_SERIF)->origin.y, 3);
+    EXPECT_EQ(findGlyph(0xE9, FONT_TITLE)->origin.y, 0);
+    EXPECT_EQ(findGlyph(0xE7, FONT_BODY), nullptr);
+}
+
+TEST(Glyphs, AHighCodeWithoutOneFallsBackToASafeLetter)
+{
+    EXPECT_EQ(baseLetter(0xD6), 'O');
+    EXPECT_EQ(baseLetter(0xE7), 'c');
+    EXPECT_EQ(baseLetter(0x80), '?');
+    EXPECT_EQ(baseLetter('"'), '"');
+    for (int code = 0x80; code < 0x100; ++code) {
+        EXPECT_GE(baseLetter(static_cast<std::uint8_t>(code)), 0x20) << code;
+        EXPECT_LT(baseLetter(static_cast<std::uint8_t>(code)), 0x7F) << code;
+    }
+}
+
+struct Placed {
+    std::string text;
+    int x, line;
+    bool heading;
+    friend bool operator==(const Placed&, const Placed&) = default;
+};
+
+void PrintTo(const Placed& word, std::ostream* out)
+{
+    *out << '"' << word.text << "\" at " << word.x << ", line " << word.line;
+}
+
+std::vector<Placed> layOut(std::string_view text, int wrapWidth, float linesPerPage = 99)
+{
+    std::vector<Placed> placed;
+    for (const ManualWord& word : layOutManualPage(text, 0, wrapWidth, linesPerPage).words)
+        placed.push_back({std::string(word.text), word.x, word.line, word.heading});
+    return placed;
+}
+
+std::size_t endOfPage(std::string_view text, int wrapWidth, float linesPerPage)
+{
+    return layOutManualPage(text, 0, wrapWidth, linesPerPage).end;
+}
+
+// In FONT_TITLE "ab" takes 20 pixels and a blank 5.
+TEST(Wrap, AWordThatFitsExactlyStays)
+{
+    EXPECT_EQ(layOut("ab ab", 45),
+              (std::vector<Placed>{{"ab", 0, 0, false}, {" ab", 20, 0, false}}));
+    EXPECT_EQ(layOut("ab ab", 44), (std::vector<Placed>{{"ab", 0, 0, false}, {"ab", 0, 1, false}}));
+}
+
+TEST(Wrap, BlanksCountInsideALineOnly)
+{
+    EXPECT_EQ(
+        layOut("  ab  ab<l>  ab", 99),
+        (std::vector<Placed>{
+            {"ab", 0, 0, false}, {" ", 20, 0, false}, {" ab", 25, 0, false}, {"ab", 0, 1, false}}));
+}
+
+TEST(Wrap, AWordWiderThanALineIsBroken)
+{
+    EXPECT_EQ(
+        layOut("ab ababab", 44),
+        (std::vector<Placed>{{"ab", 0, 0, false}, {"abab", 0, 1, false}, {"ab", 0, 2, false}}));
+    const std::string longWord(50, 'a');
+    EXPECT_EQ(layOut(longWord, 450).front().text, longWord);
+    EXPECT_EQ(layOut("ab", -1), (std::vector<Placed>{{"a", 0, 0, false}, {"b", 0, 1, false}}));
+}
+
+TEST(Wrap, HeadingsAreYellowAndStandOffFromTheTextBefore)
+{
+    EXPECT_EQ(layOut("<1>a</1>b<2>c</2>d<ll><2>e</2>f", 99),
+              (std::vector<Placed>{{"a", 0, 0, true},
+                                   {"b", 0, 2, false},
+                                   {"c", 0, 4, true},
+                                   {"d", 0, 5, false},
+                                   {"e", 0, 8, true},
+                                   {"f", 0, 9, false}}));
+}
+
+TEST(Wrap, AnAngleThatOpensNoTagIsALetter)
+{
+    EXPECT_EQ(layOut("<3>a<", 99),
+              (std::vector<Placed>{{"<3>a", 0, 0, false}, {"<", 39, 0, false}}));
+}
+
+TEST(Pages, StartAtWhatTheyDrawFirst)
+{
+    EXPECT_EQ(endOfPage("a<l>b<l>c", 99, 1), 8u);     // behind the tag
+    EXPECT_EQ(endOfPage("a<l>b<2>c</2>", 99, 1), 5u); // at the heading's tag
+    EXPECT_EQ(endOfPage("a<2>b</2>c", 99, 2), 5u);    // at the end of a heading
+    EXPECT_EQ(endOfPage("ab ab ab", 20, 1), 6u);      // at the word
+    EXPECT_EQ(endOfPage("ab ab  ", 20, 1), 7u);       // no page of blanks alone
+
+    const ManualPageWords next = layOutManualPage("a<2>b</2>c", 5, 99, 2);
+    ASSERT_EQ(next.words.size(), 1u);
+    EXPECT_EQ(next.words[0].line, 1); // the heading's own line stands on the page before
+    EXPECT_FALSE(next.words[0].heading);
+}
+
+// Whatever the size of the page, each letter stands on exactly one page and within it.
+TEST(Pages, LoseNothingAndEndForEverySize)
+{
+    const std::string text = "<1>Title here</1>One two, three.<ll><2>Head</2>Four fivesixseven<l>x "
+                             "< y<2>Last head</2>end";
+    const std::string letters = "TitlehereOnetwo,three.HeadFourfivesixsevenx<yLastheadend";
+    for (int lines = -1; lines < 12; ++lines)
+        for (int width = -5; width < 200; width += 3) {
+            std::string drawn;
+            std::size_t at = 0;
+            while (at < text.size()) {
+                const ManualPageWords page =
+                    layOutManualPage(text, at, width, static_cast<float>(lines));
+                ASSERT_GT(page.end, at) << lines << " lines of " << width;
+                for (const ManualWord& word : page.words) {
+                    ASSERT_LE(word.line, std::max(lines, 1));
+                    for (const char c : word.text)
+                        if (c != ' ')
+                            drawn += c;
+                }
+                at = page.end;
+            }
+            ASSERT_EQ(drawn, letters) << lines << " lines of " << width;
+        }
+}
+
+TEST(Pages, FollowTheLayoutWithoutABound)
+{
+    const Layout before = layout;
+    const std::string textBefore = manualText;
+    layout = {.viewW = 400, .linesPerPage = 9.0f};
+    std::string text;
+    for (int i = 0; i < 200; ++i)
+        text += "line<l>";
+    setManual(text);
+    EXPECT_EQ(manualPageCount, 20); // ten lines each, and more pages than any manual needs
+
+    manualPage = 19;
+    layout.linesPerPage = 49.0f;
+    paginateManual();
+    EXPECT_EQ(manualPageCount, 4);
+    EXPECT_EQ(manualPage, 3); // the page that was shown is no more
+
+    layout.viewW = 0;
+    paginateManual();
+    EXPECT_EQ(manualPageCount, 1);
+    layout = before;
+    manualPage = 0;
+    setManual(textBefore);
+}
+
+} // namespace
