@@ -7,6 +7,16 @@ std::string courseText;
 
 static constexpr int LAPS_LOOKED_THROUGH = 6;
 
+// Not worked out while compiling: six such grids as constants keep a compiler busy for minutes.
+Grid gridOf(int value)
+{
+    Grid grid;
+    for (auto& row : grid)
+        for (int& cell : row)
+            cell = value;
+    return grid;
+}
+
 static bool isSection(char letter)
 {
     return letter >= '0' && letter < '0' + SECTION_COUNT;

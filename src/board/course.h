@@ -20,10 +20,8 @@ constexpr int LINE_COUNT = SPRINT_COUNT + 1; // the sprints, then the finish
 
 using Grid = Table2<int, COURSE_MAX_ROWS, COURSE_LANES>;
 
-constexpr Grid gridOf(int value)
-{
-    return filled2<int, COURSE_MAX_ROWS, COURSE_LANES>(value);
-}
+// A grid with the same value everywhere.
+Grid gridOf(int value);
 
 struct CourseGrid {
     Grid moveModifier = gridOf(NO_SQUARE);

@@ -213,7 +213,9 @@ BoardPoint boardPointOnPath(float row, float lane, int rider)
 namespace
 {
 
-constexpr int SAMPLES_A_ROW = 8;
+constexpr float SAMPLE_ROWS = 0.5f;
+constexpr float FINEST_ROWS = 0.01f;
+constexpr double SHARPEST_TURN = 0.15; // radians between two points of a way
 
 // Appends a point unless it is the last one again or lies behind it: where two pieces overlap by a
 // unit or two a rider doesn't step back.
@@ -236,6 +238,23 @@ void closeWay(std::vector<WayPoint>& way, const Placement& end)
     way.push_back({.at = end.at, .heading = end.heading, .distance = last.distance + rest});
 }
 
+// Adds points of the lane between two rows, more where the road bends, none where no piece says how
+// it runs: there the way leads straight on.
+void followRoad(std::vector<WayPoint>& way, float fromRow, float toRow, float lane)
+{
+    const auto place = placeOnPiece(toRow, lane);
+    const bool bends =
+        !place ||
+        std::abs(std::remainder(place->heading - way.back().heading, FULL_TURN)) > SHARPEST_TURN;
+    if (toRow - fromRow > SAMPLE_ROWS || (bends && toRow - fromRow > FINEST_ROWS)) {
+        const float middle = (fromRow + toRow) / 2;
+        followRoad(way, fromRow, middle, lane);
+        followRoad(way, middle, toRow, lane);
+    } else if (place) {
+        extendWay(way, *place);
+    }
+}
+
 } // namespace
 
 std::vector<WayPoint> wayBetween(Square from, Square to)
@@ -247,13 +266,8 @@ std::vector<WayPoint> wayBetween(Square from, Square to)
     std::vector<WayPoint> way = {
         {.at = start.at, .heading = sameLane ? start.heading : straight, .distance = 0.0f}};
     if (sameLane) {
-        const auto lane = static_cast<float>(to.lane);
-        const float first = pathRowOfSquare(from.row, from.lane);
-        const float last = pathRowOfSquare(to.row, to.lane);
-        const int samples = static_cast<int>((last - first) * SAMPLES_A_ROW);
-        for (int i = 1; i < samples; ++i)
-            if (const auto place = placeOnPiece(first + static_cast<float>(i) / SAMPLES_A_ROW, lane))
-                extendWay(way, *place);
+        followRoad(way, pathRowOfSquare(from.row, from.lane), pathRowOfSquare(to.row, to.lane),
+                   static_cast<float>(to.lane));
     }
     closeWay(way, {.at = end.at, .heading = sameLane ? end.heading : straight});
     return way;

@@ -5,6 +5,7 @@
 #include "app/view.h"
 #include "board/course.h"
 #include "board/rider_motion.h"
+#include "race/movement.h"
 #include "race/placing.h"
 #include "race/start.h"
 #include "race/turn_cycle.h"
@@ -98,4 +99,36 @@ void runComputerRace()
 {
     while (advanceComputerRace()) {
     }
+}
+
+void setUpPersonsRace(std::string_view text, std::initializer_list<Placed> placed)
+{
+    setUpRace(text, placed);
+    for (int team = 0; team < TEAM_COUNT; ++team)
+        makeHuman(team);
+}
+
+void beginPersonsMove(int rider, int moves)
+{
+    beginPersonsTurn(rider);
+    race.moveBudget = moves;
+    race.stepsTaken = 0;
+    race.pathSquares[0] = {race.moveStartRow, race.moveStartLane};
+    gameState = STATE_MOVE;
+}
+
+void steer(std::string_view letters)
+{
+    for (const char letter : letters)
+        stepRider(letter);
+}
+
+Square squareOfRider(int rider)
+{
+    return {race.riders[rider].row, race.riders[rider].lane};
+}
+
+int occupant(int row, int lane)
+{
+    return course.courseOccupant[row][lane];
 }

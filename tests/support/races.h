@@ -3,6 +3,7 @@
 #include "race/race_state.h"
 
 #include <initializer_list>
+#include <ostream>
 #include <string_view>
 
 // Small races for the tests.
@@ -32,3 +33,23 @@ bool advanceComputerRace();
 
 // Answers until the stage is over.
 void runComputerRace();
+
+// A race of persons: as setUpRace, with all teams played by persons. nextTurn starts it.
+void setUpPersonsRace(std::string_view text, std::initializer_list<Placed> placed);
+
+// Puts a rider who stands on the course on turn after a throw of so many moves, his first square on
+// the path. For a person: he may be steered.
+void beginPersonsMove(int rider, int moves);
+
+// Steers the rider on turn, one step for each of the letters L, M and R.
+void steer(std::string_view letters);
+
+Square squareOfRider(int rider);
+
+// The rider who holds exactly this square, or -1.
+int occupant(int row, int lane);
+
+inline void PrintTo(const Square& square, std::ostream* out)
+{
+    *out << "row " << square.row << " lane " << square.lane;
+}

@@ -1,0 +1,11 @@
+#pragma once
+
+// The file "settings" of the current directory: 82 bytes with the settings and the team names.
+
+// Reads settings and team names; without the file both get their start values. Whatever the file
+// holds, every value is in its range afterwards: a number outside gets its default, a ratio that
+// isn't offered counts as none chosen. Fields behind the end of a short file are 0 or empty.
+void readSettings();
+
+// Replaces the file. False if it can't be written.
+bool writeSettings();

@@ -1,0 +1,184 @@
+#include "board/geometry.h"
+
+#include "app/game_state.h"
+#include "app/overlays.h"
+#include "app/settings.h"
+#include "board/animation.h"
+#include "board/designer.h"
+#include "support/fake_host.h"
+#include "support/races.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+#include <vector>
+
+namespace
+{
+
+constexpr float TICK = 10.0f;
+
+
+float distance(BoardPoint a, BoardPoint b)
+{
+    return std::hypot(a.x - b.x, a.y - b.y);
+}
+
+// The squares of a lane from a row on, as far as the lane runs without a break.
+std::vector<Square> laneFrom(int row, int lane)
+{
+    std::vector<Square> squares;
+    for (; squareAt(row, lane) != NO_SQUARE; ++row)
+        if (isRealSquare(squareAt(row, lane)))
+            squares.push_back({row, lane});
+    return squares;
+}
+
+// Lets the timer carry rider 0 over these squares and calls visit after each tick.
+template <typename Visit> void carry(const std::vector<Square>& squares, Visit visit)
+{
+    for (std::size_t first = 0; first + 1 < squares.size(); first += PATH_MAX - 2) {
+        race.moveBudget = static_cast<int>(
+            std::min<std::size_t>(squares.size() - 1 - first, PATH_MAX - 2));
+        for (int i = 0; i <= race.moveBudget; ++i) {
+            const Square& square = squares[first + static_cast<std::size_t>(i)];
+            race.pathSquares[i] = {static_cast<float>(square.row),
+                                   static_cast<float>(square.lane)};
+        }
+        race.currentRider = 0;
+        race.stepsTaken = 0;
+        restMotion();
+        gameState = STATE_ANIMATE;
+        for (onMoveTimer(0); race.stepsTaken < race.moveBudget || motion.way.back().distance > motion.wayDone + 1.5f * TICK; onMoveTimer(0))
+            visit();
+    }
+}
+
+} // namespace
+
+TEST(Geometry, SquaresOfABendAreSpreadEvenlyAlongTheirLane)
+{
+    setUpRace("01S23S4S5F12", {});
+    const CurvePiece& bend = course.courseCurves.front(); // rows 8.5 to 13.5 of the course
+    // Lane 0 has two squares there, lane 4 four.
+    EXPECT_FLOAT_EQ(curveRowOfSquare(bend, 10, 0), 8.5f + 5.0f / 4);
+    EXPECT_FLOAT_EQ(curveRowOfSquare(bend, 13, 0), 8.5f + 5.0f * 3 / 4);
+    EXPECT_FLOAT_EQ(curveRowOfSquare(bend, 9, 4), 8.5f + 5.0f / 8);
+    EXPECT_FLOAT_EQ(curveRowOfSquare(bend, 13, 4), 8.5f + 5.0f * 7 / 8);
+}
+
+TEST(Geometry, SquaresLieOnTheirPlaceAndFaceTheirWay)
+{
+    setUpRace("01S23S4S5F12", {});
+    const BoardPoint start = boardPointOfSquare(0, 0, 3);
+    EXPECT_FLOAT_EQ(start.x, 1117.0f - 393.0f / 8);
+    EXPECT_FLOAT_EQ(start.y, 210.0f - 183.0f / 10);
+    EXPECT_NEAR(race.riders[3].heading, -std::numbers::pi, 1e-6);
+    // On the border of two pieces the earlier one serves: row 10.5 of section A runs downward.
+    boardPointOnPath(16.5f, 2.0f, 3);
+    EXPECT_NEAR(race.riders[3].heading, std::numbers::pi / 2, 1e-6);
+    boardPointOfSquare(60, 5, 3); // cobbles of D, to the right
+    EXPECT_NEAR(race.riders[3].heading, 0.0, 0.1);
+}
+
+TEST(Geometry, EveryRealSquareOfEveryCourseLiesOnTheSheet)
+{
+    for (const std::string_view text : fixedCourses) {
+        setUpRace(text, {});
+        for (int row = 0; row < course.courseRowCount; ++row)
+            for (int lane = 0; lane < COURSE_LANES; ++lane) {
+                if (!isRealSquare(squareAt(row, lane)))
+                    continue;
+                const BoardPoint at = boardPointOfSquare(row, lane, 0);
+                EXPECT_TRUE(at.x > 20 && at.x < BOARD_WIDTH - 20 && at.y > 20 &&
+                            at.y < BOARD_HEIGHT - 20)
+                    << text << " row " << row << " lane " << lane;
+            }
+    }
+}
+
+// Where the pieces of the road don't join, a rider in motion must neither freeze nor jump nor turn.
+TEST(Animation, CarriesRidersEvenlyAlongEveryLane)
+{
+    for (const std::string_view text : fixedCourses) {
+        setUpRace(text, {});
+        for (int lane = 0; lane < COURSE_LANES; ++lane) {
+            for (int row = 0; row < course.courseRowCount; ++row) {
+                if (squareAt(row, lane) == NO_SQUARE || squareAt(row - 1, lane) != NO_SQUARE)
+                    continue;
+                const auto squares = laneFrom(row, lane);
+                if (squares.size() < 2)
+                    continue;
+                race.riders[0].finished = 0;
+                BoardPoint last = boardPointOfSquare(squares[0].row, squares[0].lane, 0);
+                double heading = race.riders[0].heading;
+                bool first = true;
+                carry(squares, [&] {
+                    const Rider& rider = race.riders[0];
+                    const BoardPoint now = {rider.x, rider.y};
+                    const double turn = std::remainder(rider.heading - heading, 2 * std::numbers::pi);
+                    if (!first) {
+                        EXPECT_GT(distance(last, now), TICK * 2 / 3)
+                            << text << " lane " << lane << " row " << rider.row;
+                        EXPECT_LT(distance(last, now), TICK * 4 / 3)
+                            << text << " lane " << lane << " row " << rider.row;
+                        EXPECT_LT(std::abs(turn), 0.7)
+                            << text << " lane " << lane << " row " << rider.row;
+                    }
+                    first = false;
+                    last = now;
+                    heading = rider.heading;
+                });
+            }
+        }
+    }
+}
+
+TEST(Animation, StepwiseTakesATickASquareAndOneToSetOut)
+{
+    setUpRace("01S23S4S5F12", {{.rider = 0, .row = 6, .lane = 4}});
+    settings.smoothMovement = 0;
+    race.currentRider = 0;
+    race.pathSquares[0] = {6, 4};
+    race.pathSquares[1] = {7, 4};
+    race.pathSquares[2] = {8, 3};
+    race.pathSquares[3] = {10, 3};
+    race.moveBudget = 3;
+    race.breakaway = 1;
+    gameState = STATE_ANIMATE;
+    int ticks = 0;
+    const auto underWay = [] { return gameState == STATE_ANIMATE && race.roundNumber == 2; };
+    while (underWay() && ++ticks < 20) {
+        fakeHost.pendingMs = -1;
+        onMoveTimer(0);
+        if (underWay()) {
+            EXPECT_EQ(fakeHost.pendingMs, DEFAULT_STEP_DELAY + 1);
+            EXPECT_EQ(race.riders[0].row, static_cast<int>(race.pathSquares[ticks - 1].row));
+        }
+    }
+    EXPECT_EQ(ticks, 4);
+}
+
+TEST(Animation, TicksOfAnotherStateAreDroppedAndOnlyOneIsEverPending)
+{
+    startSeededRace("64S5F12", 3);
+    while (gameState != STATE_ANIMATE)
+        advanceComputerRace();
+    ASSERT_TRUE(runTick());
+    const RaceState before = race;
+    gameState = STATE_SCORECARD;
+    ASSERT_TRUE(runTick());
+    EXPECT_FALSE(runTick()); // the chain has ended
+    EXPECT_EQ(race.stepsTaken, before.stepsTaken);
+    returnState = STATE_ANIMATE;
+    closeOverlay();
+    EXPECT_EQ(fakeHost.pendingMs, 0);
+    returnState = gameState;
+    fakeHost.pendingMs = 7; // pretend a longer wait: a second chain must not be armed
+    closeOverlay();
+    EXPECT_EQ(fakeHost.pendingMs, 7);
+    runComputerRace();
+    EXPECT_EQ(gameState, STATE_FINAL_SCORECARD);
+}

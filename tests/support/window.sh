@@ -1,0 +1,153 @@
+# shellcheck shell=bash
+# To be sourced. Hands and eyes for tests of the program in a real window on the display at hand:
+# clicks, keys, and pixels of the screen. A test calls startGame first. Screenshots stay in the
+# current folder.
+
+gamePid=
+declare -A at # middle of each control on the screen, as "x y"
+
+fail()
+{
+    echo "FAILED: $*" >&2
+    import -silent -window root failed.png || true
+    exit 1
+}
+
+endGame()
+{
+    [ -z "$gamePid" ] || kill "$gamePid" 2> /dev/null || true
+}
+
+# Where the controls are on a full-screen window of the display's size. The same fractions as the
+# layout's, so that a control that has moved is a test that fails.
+findControls()
+{
+    local width height name place
+    read -r width height < <(xdotool getdisplaygeometry)
+    while read -r name place; do
+        at[$name]=$place
+    done < <(awk -v w="$width" -v h="$height" '
+        function put(name, x, y) { printf "%s %d %d\n", name, left + x, y }
+        BEGIN {
+            shape = w / h
+            if (shape >= 1.6) share = 25 / 32
+            else if (shape == 1.25) share = 1
+            else share = shape - 1.25 < 4 / 3 - shape ? 1 : shape - 4 / 3 < 1.6 - shape ? 15 / 16 : 25 / 32
+            v = int(w * share); left = int((w - v) * 0.5)
+            cardW = int(v * 3 / 70); cardH = int(h * 12 / 175)
+            hud = h * 0.761; panelX = v * 0.02; panelW = v * 0.496
+            gap = (panelW - 9 * cardW) / 10
+            buttonW = v * 0.064; buttonH = h * 0.03
+            throwX = panelX + panelW + gap; throwY = hud + cardH * 6 / 5
+            side = v - buttonW * 1.5
+            dialogW = v * 0.4; dialogH = v * 0.125
+            dialogX = v * 0.5 - dialogW * 0.5; dialogY = h * 0.5 - dialogH * 0.5
+            picture = dialogW * 1419 / 1072; cardY = h * 0.75 - picture; sheetH = picture + h * 0.045
+            put("start", v * 0.5, h * 0.72)
+            put("startEdge", v * 0.5 - v * 0.115, h * 0.72)
+            put("corner", side + buttonW * 0.5, h - 20 - buttonH * 0.6)
+            put("cornerEdge", side + 4, h - 20 - buttonH * 0.6)
+            put("quit", side + v * 0.04, h - 20 - buttonH * 0.6)
+            put("setupOk", v * 0.5, h * 0.68 + buttonH * 0.5)
+            put("setupOkEdge", v * 0.5 - buttonW * 0.4, h * 0.68 + buttonH * 0.5)
+            put("firstCourse", v * 0.5 - v * 0.38 * 0.6, h * 0.17 + v * 0.05)
+            put("courseFrame", v * 0.5 - v * 0.38 * 1.1 - 5, h * 0.25)
+            put("throw", throwX + cardH * 0.5, throwY + cardH / 6)
+            put("throwEdge", throwX + 3, throwY + cardH / 6)
+            put("throwBox", throwX, throwY); put("throwSize", cardH - left, cardH / 3)
+            put("toggle", side + buttonH * 0.5, hud + buttonH * 0.5)
+            put("camera", side + v * 0.08 - buttonH * 0.5, hud + buttonH * 0.5)
+            put("dialogTitle", dialogX + 10, dialogY - v * 0.012)
+            put("dialogOk", dialogX + dialogW * 0.5, dialogY + dialogH - buttonH * 0.7)
+            put("yes", dialogX + dialogW * 0.4 - buttonW * 0.5, dialogY + dialogH - buttonH * 0.7)
+            put("no", dialogX + dialogW * 0.6 + buttonW * 0.5, dialogY + dialogH - buttonH * 0.7)
+            put("sheetTitle", v * 0.5, cardY - v * 0.012)
+            put("sheetOk", dialogX + dialogW * 0.85, cardY + sheetH - buttonH * 0.7)
+            for (i = 0; i < 4; i++)
+                put("tab" i, panelX + (i + 0.1) * panelW * 0.25, hud + h * 0.176 + v * 0.017)
+        }')
+}
+
+# The program in a folder of its own with pictures and, as the second argument, a settings file's
+# bytes in printf's notation.
+startGame()
+{
+    local pictures=$2
+    local picture
+    rm -rf run
+    mkdir run
+    for picture in "$pictures"/*.dat; do
+        ln -s "$picture" run/
+    done
+    [ $# -lt 3 ] || printf "$3" > run/settings
+    findControls
+    trap endGame EXIT
+    (cd run && exec "$1") &
+    gamePid=$!
+    until_ 30 "the main menu" pixelIs startEdge B2B2B2
+}
+
+# The colour of the middle of a control as RRGGBB.
+pixel()
+{
+    # shellcheck disable=SC2086
+    set -- ${at[$1]}
+    import -silent -window root -crop "1x1+$1+$2" -depth 8 txt:- | grep -o '#[0-9A-F]\{6\}' | cut -c 2-
+}
+
+pixelIs() { [ "$(pixel "$1")" = "$2" ]; }
+
+# Whether the label on the throw button is black, not grey.
+throwOpen()
+{
+    local x y w h
+    # shellcheck disable=SC2086
+    read -r x y w h <<< "${at[throwBox]} ${at[throwSize]}"
+    import -silent -window root -crop "${w}x$h+$x+$y" -depth 8 txt:- | grep -q '#000000'
+}
+
+dialogOpen() { pixelIs dialogTitle 000080; }
+sheetOpen() { pixelIs sheetTitle 000080; }
+
+# Waits some seconds for a command to succeed: until_ SECONDS WHAT COMMAND...
+until_()
+{
+    local end=$((SECONDS + $1))
+    while ! "${@:3}"; do
+        [ $SECONDS -lt $end ] || fail "waited $1 seconds for $2"
+        kill -0 "$gamePid" 2> /dev/null || fail "the program ended while waiting for $2"
+        sleep 0.05
+    done
+}
+
+point()
+{
+    # shellcheck disable=SC2086
+    xdotool mousemove ${at[$1]}
+}
+
+click()
+{
+    point "$1"
+    xdotool click "${2:-1}"
+}
+
+shot() { import -silent -window root "$1.png"; }
+
+# Hundredths of a second of processor time that the program has used.
+processorTime()
+{
+    awk '{print $14 + $15}' "/proc/$gamePid/stat"
+}
+
+# The program must have ended by itself with success.
+expectEnd()
+{
+    local end=$((SECONDS + 10))
+    while kill -0 "$gamePid" 2> /dev/null; do
+        [ $SECONDS -lt $end ] || fail "the program goes on"
+        sleep 0.05
+    done
+    wait "$gamePid" || fail "the program ended with status $?"
+    gamePid=
+}
