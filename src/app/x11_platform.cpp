@@ -20,6 +20,9 @@ void reportShiftTab()
     Display* display = glXGetCurrentDisplay();
     if (!display)
         return;
+    // The keyboard map must be there before: rebinding would fetch it while it holds the lock that
+    // fetching waits for.
+    XkbKeysymToModifiers(display, XK_Shift_L);
     const unsigned char tab[] = {'\t'};
     for (unsigned held = 0; held < 8; ++held) {
         KeySym modifiers[3];

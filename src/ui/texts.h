@@ -1,6 +1,30 @@
 #pragma once
 
-#include <string>
+#include "app/settings.h"
+#include "app/table.h"
+#include "ui/text_record.h"
 
-// Every text of the current language, in Latin-1. Texts that end in a blank are joined with a
-// number or a name; followPrompt and enterPlayerName hold a "%d", raceNameExists a "%s".
+#include <string>
+#include <string_view>
+
+extern Texts texts;
+
+// The two lines that stand on every frame, in no language but this.
+constexpr std::string_view headLine = "Gravelon 1.5.2 for Windows XP";
+constexpr std::string_view footLine = "Gravelon: a cycling race for up to four";
+
+// Each language by its own name, in the order of Settings::language.
+extern const Table<std::string_view, LANGUAGE_COUNT> languageNames;
+
+// Fills texts and the manual from the language of the settings. A team without a name, or with
+// the default name of another language, takes the default name of this one. With no language
+// chosen all of them stay as they are.
+void loadTexts();
+
+// The text with its first "%d" replaced by the number, or its first "%s" by the name. A text
+// without the mark comes back as it is.
+std::string withNumber(std::string_view text, int number);
+std::string withName(std::string_view text, std::string_view name);
+
+// Latin-1 for UTF-8. Whatever Latin-1 doesn't hold becomes "?".
+std::string latin1(std::string_view utf8);

@@ -1,0 +1,267 @@
+#include "input/keyboard.h"
+
+#include "app/game_state.h"
+#include "app/host.h"
+#include "app/overlays.h"
+#include "app/view.h"
+#include "board/course.h"
+#include "input/actions.h"
+#include "race/cards.h"
+#include "race/following.h"
+#include "race/hand_in.h"
+#include "race/movement.h"
+#include "race/placing.h"
+#include "race/race_state.h"
+#include "race/turn_cycle.h"
+#include "ui/access_keys.h"
+
+#include <GL/freeglut.h>
+
+constexpr unsigned char TAB = 9;
+constexpr unsigned char ENTER = 13;
+constexpr unsigned char SPACE = 32;
+
+static int modifiersOfGlut()
+{
+    return glutGetModifiers();
+}
+
+int (*heldModifiers)() = modifiersOfGlut;
+
+// Key and what it does. The first row whose control has the key as its letter is taken.
+struct LetterAction {
+    Control control;
+    void (*act)();
+};
+
+template <int N> static void actOnLetter(unsigned char key, const LetterAction (&actions)[N])
+{
+    for (const LetterAction& action : actions)
+        if (isAccessKey(action.control, key))
+            return action.act();
+}
+
+static void receiveBlueCard()
+{
+    receiveWonCard(BLUE_CARD);
+}
+
+static void receiveWhiteCard()
+{
+    receiveWonCard(WHITE_CARD);
+}
+
+static void useCardNow()
+{
+    useWonCard(true);
+}
+
+static void keepCard()
+{
+    useWonCard(false);
+}
+
+// clang-format off
+constexpr LetterAction turnLetters[] =     {{CONTROL_THROW, humanThrow}, {CONTROL_BREAKAWAY, toggleBreakaway}};
+constexpr LetterAction extraDieLetters[] = {{CONTROL_THROW, throwExtraDie}};
+constexpr LetterAction orderLetters[] =    {{CONTROL_THROW, throwForOrder}};
+constexpr LetterAction resultLetters[] =   {{CONTROL_NEXT, afterOrderThrow}};
+constexpr LetterAction followLetters[] =   {{CONTROL_YES, followYes}, {CONTROL_NO, followNo}};
+constexpr LetterAction quitLetters[] =     {{CONTROL_YES, toMainMenu}, {CONTROL_NO, closeOverlay}};
+constexpr LetterAction kindLetters[] =     {{CONTROL_BLUE, receiveBlueCard}, {CONTROL_WHITE, receiveWhiteCard}};
+constexpr LetterAction whenLetters[] =     {{CONTROL_IMMEDIATELY, useCardNow}, {CONTROL_LATER, keepCard}};
+constexpr LetterAction finalLetters[] =    {{CONTROL_QUIT, toMainMenu}};
+constexpr LetterAction menuLetters[] =     {{CONTROL_START, openTeamSetup}, {CONTROL_EXIT, exitProgram}};
+constexpr LetterAction courseLetters[] =   {{CONTROL_COURSE_BACK, leaveCourseSelection}};
+constexpr LetterAction panelLetters[] =    {{CONTROL_QUIT, openQuitConfirm}};
+// clang-format on
+
+static void letterOfState(unsigned char key)
+{
+    switch (gameState) {
+    case STATE_TURN:
+        return actOnLetter(key, turnLetters);
+    case STATE_EVENT_DIE:
+        return actOnLetter(key, extraDieLetters);
+    case STATE_ORDER_THROW:
+        return actOnLetter(key, orderLetters);
+    case STATE_ORDER_RESULT:
+        return actOnLetter(key, resultLetters);
+    case STATE_FOLLOW_PROMPT:
+        return actOnLetter(key, followLetters);
+    case STATE_CONFIRM_QUIT:
+        return actOnLetter(key, quitLetters);
+    case STATE_EVENT_CARD_KIND:
+        return actOnLetter(key, kindLetters);
+    case STATE_EVENT_CARD_WHEN:
+        return actOnLetter(key, whenLetters);
+    case STATE_FINAL_SCORECARD:
+        return actOnLetter(key, finalLetters);
+    case STATE_MAIN_MENU:
+        return actOnLetter(key, menuLetters);
+    case STATE_COURSE_SELECT:
+        return actOnLetter(key, courseLetters);
+    default:
+        return;
+    }
+}
+
+static bool isConfirming(unsigned char key)
+{
+    return key == ENTER || key == SPACE || key == 'o' || key == 'O';
+}
+
+static void confirmingKey()
+{
+    switch (gameState) {
+    case STATE_SKIP_HANDIN:
+    case STATE_EVENT_HANDIN:
+    case STATE_SKIP_NO_CARD:
+        return confirmHandIn();
+    case STATE_EVENT_NO_CARD:
+        return goOnWithoutEventCard();
+    case STATE_NO_MOVE:
+        return leaveRound();
+    case STATE_SETUP_MESSAGE:
+        return closeSetupMessage();
+    default:
+        return;
+    }
+}
+
+static void steeringKey(unsigned char key)
+{
+    const bool done = key == ENTER || key == SPACE;
+    if (gameState == STATE_PLACE_HUMAN && done)
+        placeHumanRider();
+    else if (gameState == STATE_MOVE && done)
+        endHumanMove();
+    else if (gameState == STATE_MOVE && (key == 'u' || key == 'U'))
+        undoStep();
+}
+
+static void keyOfState(unsigned char key)
+{
+    switch (gameState) {
+    case STATE_MOVE:
+    case STATE_PLACE_HUMAN:
+        return steeringKey(key);
+    default:
+        return isConfirming(key) ? confirmingKey() : letterOfState(key);
+    }
+}
+
+static void teamTabKey(bool backward)
+{
+    if (!boardVisible() || gameState == STATE_SCORECARD || gameState == STATE_FINAL_SCORECARD)
+        return;
+    showTeam((view.shownTeam + (backward ? TEAM_COUNT - 1 : 1)) % TEAM_COUNT);
+}
+
+// A key does its work in the present state and is then looked at again by the race panel, in the
+// state that is left: where one letter has both meanings it does both.
+void onKeyUp(unsigned char key, int, int)
+{
+    const int held = heldModifiers();
+    if (held & (GLUT_ACTIVE_CTRL | GLUT_ACTIVE_ALT))
+        return;
+    keyOfState(key);
+    if (racePanelActive())
+        actOnLetter(key, panelLetters);
+    if (key == TAB)
+        teamTabKey(held & GLUT_ACTIVE_SHIFT);
+}
+
+static void steer(int key)
+{
+    switch (key) {
+    case GLUT_KEY_LEFT:
+        return stepRider('L');
+    case GLUT_KEY_UP:
+        return stepRider('M');
+    case GLUT_KEY_RIGHT:
+        return stepRider('R');
+    case GLUT_KEY_DOWN:
+        return undoStep();
+    default:
+        return;
+    }
+}
+
+// The start section lies across the picture, the two of them in opposite directions. The cursor
+// goes where the arrow points.
+static void moveCursor(int key)
+{
+    const int forward = courseText.starts_with('0') ? 1 : -1;
+    switch (key) {
+    case GLUT_KEY_LEFT:
+        return movePlacingCursor(forward, 0);
+    case GLUT_KEY_RIGHT:
+        return movePlacingCursor(-forward, 0);
+    case GLUT_KEY_UP:
+        return movePlacingCursor(0, forward);
+    case GLUT_KEY_DOWN:
+        return movePlacingCursor(0, -forward);
+    default:
+        return;
+    }
+}
+
+// The card slot of a function key for the rider on turn: his own cards, the team's, those won. -1
+// for a key without a card of his.
+static int slotOfKey(int key)
+{
+    const int place = riderPlace(race.currentRider);
+    if (key <= GLUT_KEY_F4) {
+        const int slot = riderFirstCard[place] + key - GLUT_KEY_F1;
+        return cardOwner[slot] == place ? slot : -1;
+    }
+    return SET_CARD_COUNT - 4 + key - GLUT_KEY_F5;
+}
+
+static void bringTeamIntoView()
+{
+    if (view.shownTeam != riderTeam(race.currentRider))
+        showTeam(riderTeam(race.currentRider));
+}
+
+static int placeOfCard(const Table<int, 2>& places, int slot)
+{
+    return places[0] == slot ? 0 : places[1] == slot ? 1 : -1;
+}
+
+static void cardKey(int key)
+{
+    const bool turn = gameState == STATE_TURN;
+    const Table<int, 2>& places = turn ? race.playedCards : race.handInCards;
+    const int slot = slotOfKey(key);
+    if (slot == -1)
+        return;
+    const int laid = placeOfCard(places, slot);
+    if (laid != -1) {
+        unpickCard(laid);
+        bringTeamIntoView();
+    } else if (race.roundNumber != 1) {
+        pickCard(slot);
+        if (turn && placeOfCard(places, slot) != -1)
+            bringTeamIntoView();
+    }
+}
+
+static bool cardKeysAct()
+{
+    return gameState == STATE_TURN || gameState == STATE_SKIP_HANDIN ||
+           gameState == STATE_EVENT_HANDIN;
+}
+
+void onSpecialUp(int key, int, int)
+{
+    if (heldModifiers() & (GLUT_ACTIVE_CTRL | GLUT_ACTIVE_ALT))
+        return;
+    if (gameState == STATE_MOVE)
+        steer(key);
+    else if (gameState == STATE_PLACE_HUMAN)
+        moveCursor(key);
+    else if (cardKeysAct() && key >= GLUT_KEY_F1 && key <= GLUT_KEY_F12)
+        cardKey(key);
+}

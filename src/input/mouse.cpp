@@ -1,0 +1,290 @@
+#include "input/mouse.h"
+
+#include "app/game_state.h"
+#include "app/host.h"
+#include "app/overlays.h"
+#include "app/view.h"
+#include "board/designer.h"
+#include "board/pictures.h"
+#include "input/actions.h"
+#include "race/cards.h"
+#include "race/following.h"
+#include "race/hand_in.h"
+#include "race/placing.h"
+#include "race/race_state.h"
+#include "race/turn_cycle.h"
+#include "ui/controls.h"
+#include "ui/layout.h"
+
+#include <GL/freeglut.h>
+
+// A place in the drawing area.
+struct Point {
+    int x;
+    int y;
+
+    bool in(const Rect& rect) const { return rect.contains(x, y); }
+};
+
+static Point inDrawingArea(int x, int y)
+{
+    return {x - layout.viewX, y - layout.viewY};
+}
+
+static void pressInTurn(Point at)
+{
+    if (at.in(throwButton()))
+        humanThrow();
+    else if (at.in(dicePlace(0)))
+        unpickCard(0);
+    else if (at.in(dicePlace(1)))
+        unpickCard(1);
+    else if (at.in(breakawayBox()))
+        toggleBreakaway();
+}
+
+static void pressScreen(Point at)
+{
+    if (gameState == STATE_TURN)
+        pressInTurn(at);
+}
+
+static void releaseInMainMenu(Point at)
+{
+    if (at.in(menuStartButton()))
+        openTeamSetup();
+    else if (at.in(exitButton()))
+        exitProgram();
+}
+
+static void releaseInTeamSetup(Point at)
+{
+    if (at.in(teamOkButton()))
+        confirmTeamSetup();
+    else if (at.in(cornerButton()))
+        toMainMenu();
+}
+
+static void releaseInCourseSelection(Point at)
+{
+    if (at.in(cornerButton()))
+        leaveCourseSelection();
+    else
+        chooseHoveredCourse();
+}
+
+static void releaseScreen(Point at)
+{
+    switch (gameState) {
+    case STATE_ORDER_THROW:
+        return at.in(throwButton()) ? throwForOrder() : void();
+    case STATE_ORDER_RESULT:
+        return at.in(throwButton()) ? afterOrderThrow() : void();
+    case STATE_MAIN_MENU:
+        return releaseInMainMenu(at);
+    case STATE_TEAM_SETUP:
+        return releaseInTeamSetup(at);
+    case STATE_COURSE_SELECT:
+        return releaseInCourseSelection(at);
+    default:
+        return;
+    }
+}
+
+static bool teamTabsAct()
+{
+    return boardVisible() && gameState != STATE_SCORECARD && gameState != STATE_FINAL_SCORECARD;
+}
+
+static void releaseTeamTab(Point at)
+{
+    if (!teamTabsAct())
+        return;
+    for (int team = 0; team < TEAM_COUNT; ++team) {
+        if (at.in(teamTab(team)))
+            return showTeam(team);
+    }
+}
+
+static bool cardsAct()
+{
+    return (gameState == STATE_TURN || gameState == STATE_SKIP_HANDIN ||
+            gameState == STATE_EVENT_HANDIN) &&
+           race.roundNumber != 1;
+}
+
+static void pressHandIn(Point at)
+{
+    if (gameState != STATE_SKIP_HANDIN && gameState != STATE_EVENT_HANDIN)
+        return;
+    if (at.in(handInOkButton()))
+        return confirmHandIn();
+    for (int slot = 0; slot < race.handInCards.size(); ++slot) {
+        if (race.handInCards[slot] != -1 && at.in(handInSlot(slot)))
+            return unpickCard(slot);
+    }
+}
+
+// Another team's cards can be looked at but not touched.
+static void pressCard(Point at)
+{
+    if (!cardsAct() || view.shownTeam != riderTeam(race.currentRider))
+        return;
+    for (int slot = 0; slot < CARD_SLOT_COUNT; ++slot) {
+        if (at.in(cardPlace(slot)))
+            return pickCard(slot);
+    }
+}
+
+static void answer(Point at, void (*left)(), void (*right)())
+{
+    if (at.in(dialogLeftButton()))
+        left();
+    else if (at.in(dialogRightButton()))
+        right();
+}
+
+static void confirm(Point at, void (*ok)())
+{
+    if (at.in(dialogOkButton()))
+        ok();
+}
+
+static void releaseDialog(Point at)
+{
+    switch (gameState) {
+    case STATE_FOLLOW_PROMPT:
+        return answer(at, followYes, followNo);
+    case STATE_EVENT_CARD_KIND:
+        return answer(
+            at, [] { receiveWonCard(BLUE_CARD); }, [] { receiveWonCard(WHITE_CARD); });
+    case STATE_EVENT_CARD_WHEN:
+        return answer(
+            at, [] { useWonCard(true); }, [] { useWonCard(false); });
+    case STATE_EVENT_NO_CARD:
+        return confirm(at, goOnWithoutEventCard);
+    case STATE_NO_MOVE:
+        return confirm(at, leaveRound);
+    case STATE_CONFIRM_QUIT:
+        return answer(at, toMainMenu, closeOverlay);
+    case STATE_SKIP_NO_CARD:
+        return confirm(at, confirmHandIn);
+    case STATE_SETUP_MESSAGE:
+        return confirm(at, closeSetupMessage);
+    case STATE_FINAL_SCORECARD:
+        return at.in(scorecardOkButton()) ? toMainMenu() : void();
+    default:
+        return;
+    }
+}
+
+static bool scorecardShown()
+{
+    return gameState == STATE_SCORECARD || gameState == STATE_FINAL_SCORECARD ||
+           gameState == STATE_RACE_STANDINGS;
+}
+
+static void startDrag(Point at, const Rect& titleBar, const Rect& box)
+{
+    if (!at.in(titleBar))
+        return;
+    view.dragActive = true;
+    view.dragOffsetX = static_cast<int>(static_cast<float>(at.x) - box.x);
+    view.dragOffsetY = static_cast<int>(static_cast<float>(at.y) - box.y);
+}
+
+static void pressTitleBar(Point at)
+{
+    if (dialogShown())
+        startDrag(at, dialogTitleBar(), dialogBox());
+    else if (scorecardShown())
+        startDrag(at, scorecardTitleBar(), scorecardBox());
+}
+
+static void pressSidePanel(Point at)
+{
+    if (racePanelActive() && at.in(quitButton()))
+        openQuitConfirm();
+}
+
+// The camera button alone takes the right button too.
+static void pressCamera(int button, Point at)
+{
+    if (!cameraActive())
+        return;
+    if (button == GLUT_LEFT_BUTTON && at.in(viewToggle()))
+        toggleView();
+    else if (at.in(cameraButton()))
+        changeCamera(button == GLUT_RIGHT_BUTTON ? CAMERA_PREVIOUS : CAMERA_NEXT);
+}
+
+// One press can open a dialog and what follows sees the new state, so the order counts.
+static void pressLeft(Point at)
+{
+    pressScreen(at);
+    pressHandIn(at);
+    pressCard(at);
+    pressTitleBar(at);
+    pressSidePanel(at);
+    pressCamera(GLUT_LEFT_BUTTON, at);
+}
+
+static void releaseLeft(Point at)
+{
+    view.dragActive = false;
+    releaseScreen(at);
+    releaseTeamTab(at);
+    if (!cardsAct())
+        releaseDialog(at);
+}
+
+void onMouse(int button, int buttonState, int x, int y)
+{
+    const Point at = inDrawingArea(x, y);
+    const bool pressed = buttonState == GLUT_DOWN;
+    if (button == GLUT_LEFT_BUTTON)
+        pressed ? pressLeft(at) : releaseLeft(at);
+    else if (button == GLUT_RIGHT_BUTTON && pressed)
+        pressCamera(GLUT_RIGHT_BUTTON, at);
+}
+
+// Slides along the edges of the drawing area; the two axes are taken one by one.
+static void drag(const Rect& box, Point at, void (*place)(float x, float y))
+{
+    const float x = static_cast<float>(at.x - view.dragOffsetX);
+    const float y = static_cast<float>(at.y - view.dragOffsetY);
+    const bool xFits = x > 0.0f && x + box.w < static_cast<float>(layout.viewW);
+    const bool yFits = y - layout.titleBarH > 0.0f && y + box.h < static_cast<float>(layout.viewH);
+    place(xFits ? x : box.x, yFits ? y : box.y);
+    redrawNow();
+}
+
+void onDrag(int x, int y)
+{
+    if (!view.dragActive)
+        return;
+    const Point at = inDrawingArea(x, y);
+    if (dialogShown())
+        drag(dialogBox(), at, placeDialog);
+    else if (scorecardShown())
+        drag(scorecardBox(), at, placeScorecard);
+}
+
+static int courseUnder(Point at)
+{
+    for (int index = 0; index < FIXED_COURSE_COUNT; ++index)
+        if (at.in(courseCell(index)))
+            return index;
+    return -1;
+}
+
+void onHover(int x, int y)
+{
+    if (gameState != STATE_COURSE_SELECT)
+        return;
+    const int hovered = courseUnder(inDrawingArea(x, y));
+    if (hovered == courseScreens.courseHover)
+        return;
+    courseScreens.courseHover = hovered;
+    redrawNow();
+}

@@ -1,0 +1,142 @@
+#include "ui/board_layer.h"
+
+#include "app/game_state.h"
+#include "app/view.h"
+#include "board/course.h"
+#include "board/geometry.h"
+#include "board/rider_motion.h"
+#include "race/race_state.h"
+#include "race/start_grid.h"
+#include "ui/matrices.h"
+#include "ui/models.h"
+#include "ui/widgets.h"
+
+#include <GL/freeglut.h>
+
+#include <string>
+
+// Where the sprint winner stands a second time in perspective view.
+constexpr BoardPoint PODIUM = {652.0f, 422.0f};
+
+constexpr Colour FORBIDDEN_RED = {0.8f, 0.0f, 0.0f};
+
+static BoardPoint startGridCorner(int row, int lane)
+{
+    const float r = static_cast<float>(row);
+    const float l = static_cast<float>(lane);
+    if (courseText.starts_with('0'))
+        return {1117.0f - r * 98.25f, 210.0f - l * 36.6f};
+    return {r * 99.0f + 528.0f, (l - 4.0f) * 37.0f + 975.0f};
+}
+
+static void drawPlacingCursor()
+{
+    const int row = race.placingRow;
+    const int lane = race.placingLane;
+    const bool onStartSection = courseText.starts_with('0') || courseText.starts_with('6');
+    if (row == -1 || lane == -1 || !onStartSection)
+        return;
+    setColour(mayPlaceOn(row, lane, race.currentRider) ? WHITE : FORBIDDEN_RED);
+    glBegin(GL_TRIANGLE_STRIP);
+    for (const Square& corner : {Square{row, lane}, Square{row, lane + 1}, Square{row + 1, lane},
+                                 Square{row + 1, lane + 1}}) {
+        const BoardPoint point = startGridCorner(corner.row, corner.lane);
+        glVertex2f(point.x, point.y);
+    }
+    glEnd();
+}
+
+// A rider on his way is placed by the timer, every other stands on his square.
+static void placeRiders()
+{
+    for (int i = 0; i < RIDER_COUNT; ++i) {
+        Rider& rider = race.riders[i];
+        const bool carried = i == race.currentRider && !motion.way.empty();
+        if (rider.finished || rider.row == -1 || carried)
+            continue;
+        const BoardPoint at = boardPointOfSquare(rider.row, rider.lane, i);
+        rider.x = at.x;
+        rider.y = at.y;
+    }
+}
+
+static bool onBoard(const Rider& rider)
+{
+    return !rider.offBoard && !rider.finished && rider.row != -1;
+}
+
+// On the pawn, whichever way up the board lies.
+static void drawNumberLabel(int index)
+{
+    const Rider& rider = race.riders[index];
+    setColour(index == race.sprintWinner ? BLACK : WHITE);
+    if (view.cameraIndex == 2)
+        glRasterPos2f(rider.x + 12.0f, rider.y - 8.0f);
+    else
+        glRasterPos2f(rider.x - 12.0f, rider.y + 8.0f);
+    for (const char digit : std::to_string(riderNumber(index)))
+        glutBitmapCharacter(GLUT_BITMAP_HELVETICA_12, digit);
+}
+
+static void drawPawns(PawnShape shape)
+{
+    for (int i = 0; i < RIDER_COUNT; ++i) {
+        const Rider& rider = race.riders[i];
+        if (!onBoard(rider))
+            continue;
+        glPushMatrix();
+        glTranslatef(rider.x, rider.y, 0.0f);
+        glRotated(rider.heading / 6.2831853 * 360.0, 0.0, 0.0, 1.0);
+        drawRider(i, shape, false, 1.0f, true);
+        glPopMatrix();
+    }
+}
+
+// All numbers behind all pawns: OpenGL is much slower where shapes and bitmaps take turns.
+static void drawNumberLabels()
+{
+    for (int i = 0; i < RIDER_COUNT; ++i)
+        if (onBoard(race.riders[i]))
+            drawNumberLabel(i);
+}
+
+static void drawWinnerOnPodium()
+{
+    if (race.sprintWinner == -1)
+        return;
+    constexpr double quarterTurn = 90.0;
+    const int team = riderTeam(race.sprintWinner);
+    glPushMatrix();
+    glTranslatef(PODIUM.x, PODIUM.y, 0.0f);
+    glRotated(quarterTurn, 0.0, 0.0, 1.0);
+    setColour(teamColour[team]);
+    drawStandingPawn(teamFigure(team), PODIUM.x, PODIUM.y, quarterTurn * 6.2831853 / 360.0);
+    glPopMatrix();
+}
+
+// The board and the cursor lie in one plane, which nothing can stand behind: without the depth test
+// they can't fight with each other or with the feet of the pawns.
+static void drawPlane()
+{
+    glDisable(GL_DEPTH_TEST);
+    glCallList(lists.boardList);
+    if (gameState == STATE_PLACE_HUMAN)
+        drawPlacingCursor();
+}
+
+void drawBoardLayer()
+{
+    useBoardLayer();
+    drawPlane();
+    placeRiders();
+    if (view.viewMode == VIEW_FLAT) {
+        drawPawns(PAWN_FLAT);
+        drawNumberLabels();
+        return;
+    }
+    glEnable(GL_DEPTH_TEST);
+    glEnable(GL_ALPHA_TEST);
+    drawPawns(PAWN_STANDING);
+    drawWinnerOnPodium();
+    glDisable(GL_ALPHA_TEST);
+}

@@ -1,0 +1,110 @@
+#include "ui/card_panel.h"
+
+#include "app/game_state.h"
+#include "app/view.h"
+#include "board/course.h"
+#include "race/race_state.h"
+#include "ui/controls.h"
+#include "ui/layout.h"
+#include "ui/strength_cards.h"
+#include "ui/text.h"
+#include "ui/widgets.h"
+
+constexpr int BLACK_TEAM = 2; // its colour would hide text and panel
+
+constexpr float BRIGHT = 1.0f;
+constexpr float DIM = 0.5f;
+
+static int cardsIn(const Table<int, 2>& places)
+{
+    return (places[0] != -1 ? 1 : 0) + (places[1] != -1 ? 1 : 0);
+}
+
+// Whether one more card may be laid in the present state; outside the two states in which cards are
+// laid the question doesn't arise.
+static bool placeFree()
+{
+    const bool oneAtMost = terrainOf(race.currentRider) == TERRAIN_COBBLES;
+    if (gameState == STATE_TURN)
+        return cardsIn(race.playedCards) < (oneAtMost ? 1 : 2);
+    if (gameState == STATE_SKIP_HANDIN) {
+        const bool two = race.riders[race.currentRider].skipTurns >= 2 && !oneAtMost;
+        return cardsIn(race.handInCards) < (two ? 2 : 1);
+    }
+    return true;
+}
+
+static bool shownRiderMayUse(int value)
+{
+    if (race.roundNumber == 1 || race.currentRider == -1)
+        return false;
+    if (riderTeam(race.currentRider) != view.shownTeam)
+        return false;
+    if (value == BLUE_CARD && terrainOf(race.currentRider) == TERRAIN_MOUNTAIN)
+        return false;
+    return placeFree();
+}
+
+static bool setCardUsable(int slot)
+{
+    if (gameState != STATE_TURN && gameState != STATE_SKIP_HANDIN)
+        return false;
+    return shownRiderMayUse(cardValue[slot]) &&
+           (cardOwner[slot] == -1 || cardOwner[slot] == riderPlace(race.currentRider));
+}
+
+// Bright in any state of its owner's turn.
+static bool wonCardUsable(int k)
+{
+    return shownRiderMayUse(race.wonCardValue[view.shownTeam][k]) &&
+           race.wonCardRider[view.shownTeam][k] == race.currentRider;
+}
+
+static void drawCards()
+{
+    for (int slot = 0; slot < CARD_SLOT_COUNT; ++slot) {
+        if (race.cardUsed[view.shownTeam][slot] != CARD_AVAILABLE)
+            continue;
+        const bool usable =
+            slot < SET_CARD_COUNT ? setCardUsable(slot) : wonCardUsable(slot - SET_CARD_COUNT);
+        const Rect place = cardPlace(slot);
+        drawCard(place.x, place.y, view.shownTeam, slot, usable ? BRIGHT : DIM);
+    }
+}
+
+static Colour tabColour(int team, bool selected)
+{
+    if (team == BLACK_TEAM)
+        return selected ? disabledGrey : BLACK;
+    return selected ? teamColour[team] : teamColourDim[team];
+}
+
+// The names behind all four fields: OpenGL is slower where shapes and bitmaps take turns.
+static void drawTabs()
+{
+    for (int team = 0; team < TEAM_COUNT; ++team) {
+        const Rect tab = teamTab(team);
+        setColour(tabColour(team, team == view.shownTeam));
+        fillRect(tab.x, tab.y, tab.w, tab.h);
+    }
+    for (int team = 0; team < TEAM_COUNT; ++team) {
+        const Rect tab = teamTab(team);
+        setColour(team == view.shownTeam ? WHITE : disabledGrey);
+        drawText(tab.x + tab.w * 0.5f, tab.y + tab.h * 0.6f, ALIGN_CENTRE, raceSetup.teamName[team],
+                 FONT_TITLE);
+    }
+}
+
+void drawCardPanel()
+{
+    const Rect panel = cardPanel();
+    const float border = layout.panelBorder;
+    setColour(WHITE);
+    fillRect(panel.x - border, panel.y - border, panel.w + 2.0f * border,
+             panel.h + layout.teamTabsH + 2.0f * border);
+
+    setColour(view.shownTeam == BLACK_TEAM ? BLACK : teamColourDim[view.shownTeam], 0.75f);
+    fillRect(panel.x, panel.y, panel.w, panel.h);
+    drawTabs();
+    drawCards();
+}

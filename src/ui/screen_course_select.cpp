@@ -1,0 +1,61 @@
+#include "ui/screens.h"
+
+#include "board/course.h"
+#include "board/designer.h"
+#include "board/pictures.h"
+#include "ui/access_keys.h"
+#include "ui/controls.h"
+#include "ui/layout.h"
+#include "ui/models.h"
+#include "ui/text.h"
+#include "ui/texts.h"
+#include "ui/widgets.h"
+
+#include <GL/gl.h>
+
+#include <cmath>
+
+static void drawHoverFrame(const Rect& picture)
+{
+    const float left = std::trunc(picture.x - 5.0f);
+    const float top = std::trunc(picture.y - 5.0f);
+    setColour(WHITE);
+    glLineWidth(2.0f);
+    outlineRect(left, top, std::trunc(picture.x + picture.w + 5.0f) - left,
+                std::trunc(picture.y + picture.h + 38.0f) - top);
+    glLineWidth(1.0f);
+}
+
+static void drawCourse(int index)
+{
+    const Rect picture = coursePicture(index);
+    glPushMatrix();
+    glTranslatef(picture.x, picture.y, 0.0f);
+    glCallList(lists.courseLists[index]);
+    glPopMatrix();
+
+    if (index == courseScreens.courseHover)
+        drawHoverFrame(picture);
+
+    const LapTitle title = courseLapTitle(fixedCourses[index], 0);
+    const float centre = picture.x + picture.w * 0.5f;
+    const float y = picture.y + picture.h + 10.0f;
+    setColour(WHITE);
+    drawText(centre, y, ALIGN_CENTRE, title.names, FONT_FIXED);
+    setColour(buttonGrey);
+    drawText(centre, y + layout.courseLineH, ALIGN_CENTRE, title.marks, FONT_FIXED);
+}
+
+void drawCourseSelection()
+{
+    setColour(WHITE);
+    drawText(static_cast<float>(layout.viewW) * 0.5f, static_cast<float>(layout.viewH) * 0.12f,
+             ALIGN_CENTRE, texts.courseSelectionTitle, FONT_TITLE);
+    for (int index = 0; index < FIXED_COURSE_COUNT; ++index)
+        drawCourse(index);
+
+    // Grey: a course of one's own is yet to come.
+    drawControl(CONTROL_SAVED_COURSE, savedCourseButton(), false);
+    drawControl(CONTROL_CREATE_COURSE, newCourseButton(), false);
+    drawControl(CONTROL_COURSE_BACK, cornerButton(), true);
+}

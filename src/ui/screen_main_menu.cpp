@@ -1,0 +1,29 @@
+#include "ui/screens.h"
+
+#include "ui/access_keys.h"
+#include "ui/controls.h"
+#include "ui/layout.h"
+#include "ui/text.h"
+#include "ui/texts.h"
+#include "ui/widgets.h"
+
+void drawMainMenu()
+{
+    const float centre = static_cast<float>(layout.viewW) * 0.5f;
+    const float bottom = static_cast<float>(layout.viewH);
+    setColour(WHITE);
+    drawText(centre, bottom * 0.24f, ALIGN_CENTRE, texts.mainMenuTitle, FONT_TITLE);
+
+    // Grey: the screens behind these are yet to come.
+    drawControl(CONTROL_LANGUAGE, menuLanguageButton(), false);
+    drawControl(CONTROL_MANUAL, menuManualButton(), false);
+    drawControl(CONTROL_MENU_SETTINGS, menuSettingsButton(), false);
+    drawControl(CONTROL_CONTINUE, menuContinueButton(), false);
+
+    drawControl(CONTROL_START, menuStartButton(), true);
+    drawControl(CONTROL_EXIT, exitButton(), true);
+
+    setColour(WHITE);
+    drawText(centre, bottom - 65.0f, ALIGN_CENTRE, texts.creditDesigner);
+    drawText(centre, bottom - 50.0f, ALIGN_CENTRE, texts.creditProgrammer);
+}

@@ -1,0 +1,127 @@
+#include "ui/strength_cards.h"
+
+#include "race/race_state.h"
+#include "ui/layout.h"
+#include "ui/models.h"
+#include "ui/text.h"
+#include "ui/widgets.h"
+
+#include <GL/gl.h>
+
+#include <string>
+
+struct CardFace {
+    int value = BLUE_CARD;
+    std::string rider;
+};
+
+static std::string numberInTeam(int team, int place)
+{
+    return std::to_string(riderNumber(team * RIDERS_PER_TEAM + place));
+}
+
+static CardFace setCardFace(int team, int card)
+{
+    const int owner = cardOwner[card];
+    return {cardValue[card], owner == -1 ? "P" : numberInTeam(team, owner)};
+}
+
+static CardFace wonCardFace(int team, int slot)
+{
+    return {race.wonCardValue[team][slot],
+            std::to_string(riderNumber(race.wonCardRider[team][slot]))};
+}
+
+static CardFace cardFace(int team, int card)
+{
+    if (card == DOPING_CARD)
+        return {race.dopingCardValue, "D"};
+    if (card == CARD_WON_IN_USE)
+        return {race.bonusMoves, numberInTeam(team, riderPlace(race.currentRider))};
+    if (card >= SET_CARD_COUNT)
+        return wonCardFace(team, card - SET_CARD_COUNT);
+    return setCardFace(team, card);
+}
+
+void drawCard(float x, float y, int team, int card, float brightness)
+{
+    constexpr Colour cardBlue = {0.0f, 0.0f, 1.0f};
+    const CardFace face = cardFace(team, card);
+    const bool white = face.value == WHITE_CARD;
+
+    glPushMatrix();
+    glTranslatef(x, y, 0.0f);
+    setColour(white ? WHITE : cardBlue, brightness);
+    glCallList(lists.cardOuterList);
+    setColour(cardBlue, brightness);
+    glCallList(lists.cardFrameList);
+    setColour(WHITE, brightness);
+    glCallList(lists.cardInnerList);
+
+    setColour(cardBlue, brightness);
+    drawText(layout.cardW * 0.5f, layout.cardH * 0.35f, ALIGN_CENTRE, face.rider);
+    setColour(white ? cardBlue : WHITE, brightness);
+    drawText(layout.cardW * 0.5f, layout.cardH * 0.85f, ALIGN_CENTRE, white ? "5" : "6");
+    glPopMatrix();
+}
+
+struct Pip {
+    float x, y;    // in sides of the die
+    bool faces[7]; // shown by the value 0 to 6
+};
+
+// clang-format off
+//                                             0      1      2      3      4      5      6
+constexpr Pip pips[] = {
+    {0.50f, 0.50f, {false, true,  false, true,  false, true,  false}},
+    {0.25f, 0.25f, {false, false, true,  true,  true,  true,  true }},
+    {0.75f, 0.75f, {false, false, true,  true,  true,  true,  true }},
+    {0.75f, 0.25f, {false, false, false, false, true,  true,  true }},
+    {0.25f, 0.75f, {false, false, false, false, true,  true,  true }},
+    {0.25f, 0.50f, {false, false, false, false, false, false, true }},
+    {0.75f, 0.50f, {false, false, false, false, false, false, true }},
+};
+// clang-format on
+
+static void drawPips(int value)
+{
+    if (value < 1 || value > 6)
+        return;
+    for (const Pip& pip : pips) {
+        if (!pip.faces[value])
+            continue;
+        glPushMatrix();
+        glTranslatef(pip.x * layout.cardH, pip.y * layout.cardH, 0.0f);
+        glCallList(lists.pipList);
+        glPopMatrix();
+    }
+}
+
+static void drawDie(float x, float y, int value)
+{
+    glPushMatrix();
+    glTranslatef(x, y, 0.0f);
+    glCallList(lists.dieList);
+    drawPips(value);
+    glPopMatrix();
+}
+
+static void drawTurnDie(int place)
+{
+    const float x = layout.diceX + static_cast<float>(place) * (layout.cardH + layout.cardGapX);
+    const int card = race.playedCards[place];
+    drawDie(x, layout.hudY, card == -1 ? race.dice[place] : -1);
+    if (card != -1)
+        drawCard(x + (layout.cardH - layout.cardW) * 0.5f, layout.hudY,
+                 riderTeam(race.currentRider), card, 1.0f);
+}
+
+void drawDice(DiceMode mode)
+{
+    if (mode == DICE_EXTRA) {
+        drawDie(layout.hudCol3X, layout.hudY, race.extraDie);
+        return;
+    }
+    drawTurnDie(0);
+    drawTurnDie(1);
+}

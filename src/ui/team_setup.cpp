@@ -1,0 +1,3 @@
+#include "ui/team_setup.h"
+
+TeamSetup teamSetup;
