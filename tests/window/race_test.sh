@@ -1,0 +1,53 @@
+#!/usr/bin/env bash
+# A race of four computer teams from the first click to the final scorecard and out again, with
+# nothing but clicks on "Start", "OK", a course, "Next", "OK" and "Quit".
+set -eu
+# shellcheck source=tests/support/window.sh
+. "$(dirname "$0")/../support/window.sh"
+
+# English, smooth, no delay, 999 board units a tick.
+fast='\1\1\0\0\0\0\0\300\171\104\0\0\0\0\0\0\0\0\0\0\360\277\0\0\0\0\0\0\360\277'
+
+startGame "$1" "$2" "$fast"
+shot menu
+
+before=$(processorTime)
+sleep 3
+[ $(($(processorTime) - before)) -le 1 ] || fail "the idle main menu takes processor time"
+
+click start
+until_ 5 "the team setup" pixelIs setupOkEdge B2B2B2
+shot setup
+click setupOk
+until_ 5 "the courses" pixelIs cornerEdge B2B2B2
+point firstCourse
+until_ 5 "the frame round the course" pixelIs courseFrame FFFFFF
+shot courses
+click firstCourse
+until_ 10 "the race" throwOpen
+shot order
+
+seen=
+while ! sheetOpen; do
+    [ $SECONDS -lt 200 ] || fail "the race does not end"
+    kill -0 "$gamePid" || fail "the program ended in the race"
+    if dialogOpen; then
+        [[ $seen = *dialog* ]] || shot dialog
+        seen+=dialog
+        click dialogOk
+    elif throwOpen; then
+        click throw
+    elif [ -z "${toggled-}" ]; then
+        toggled=yes
+        shot flat
+        click toggle
+        sleep 0.3
+        shot perspective
+    fi
+done
+shot scorecard
+click sheetOk
+until_ 5 "the main menu" pixelIs startEdge B2B2B2
+click corner
+expectEnd
+echo "A race took $SECONDS seconds."
