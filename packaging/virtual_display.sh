@@ -2,9 +2,9 @@
 # To be sourced. A virtual display with a window manager, for as long as the script runs. The script
 # has to have called useScratchFolder before.
 
-virtualScreen=1280x960x24
-housekeepers=() # the processes that make up the display
-scratch=        # sockets, keys and logs; gone when the script ends
+virtualScreen=1280x1024x24 # the shape that the game is designed for
+housekeepers=()           # the processes that make up the display
+scratch=                  # sockets, keys and logs; gone when the script ends
 
 # Makes the folder for what lives no longer than the script, and sees to it that everything ends
 # with the script, however that ends.

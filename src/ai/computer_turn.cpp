@@ -71,8 +71,7 @@ void wishForGoal(Wish& wish, int& sprint)
 {
     const Square from = squareOfMover();
     const RouteBest best12 = trial(from, HIGHEST_THROW, sprint);
-    const RouteBest next =
-        trial({best12.row, best12.lane}, AVERAGE_THROW, best12.sprint, {0, 0});
+    const RouteBest next = trial({best12.row, best12.lane}, AVERAGE_THROW, best12.sprint, {0, 0});
     sprint = next.sprint;
     if (next.row > course.finishRow) {
         wish = {.needed = HIGHEST_THROW, .maxSprint = GOAL_FINISH};

@@ -14,8 +14,8 @@ void findRoute(Square from, int budget, const RouteQuestion& question, RouteBest
 namespace
 {
 
-constexpr int REACH_BUDGETS = PATH_LETTERS_MAX;      // 0 to 17: a throw of 12 on a +5
-constexpr int SEARCHED_ROWS = COURSE_MAX_ROWS - 20;  // no course comes near the rows behind
+constexpr int REACH_BUDGETS = PATH_LETTERS_MAX;     // 0 to 17: a throw of 12 on a +5
+constexpr int SEARCHED_ROWS = COURSE_MAX_ROWS - 20; // no course comes near the rows behind
 
 // The furthest row from each lane of one row, by the moves left. Other riders don't count, so that
 // it follows from the row ahead alone.

@@ -46,8 +46,8 @@ bool seeksTarget(const RouteQuestion& question)
 
 void visit(Walk& walk, Square at, int budget);
 
-// True as soon as a target is found: the search is over. A square that is known with as many moves is
-// passed over before the dearer question whether the step is allowed.
+// True as soon as a target is found: the search is over. A square that is known with as many moves
+// is passed over before the dearer question whether the step is allowed.
 bool trySteps(Walk& walk, Square at, int budget)
 {
     for (const char letter : STEP_LETTERS) {

@@ -20,11 +20,11 @@ struct RoutePath {
 
 // The best square so far. The caller resets it before a search, or starts it on a real square.
 struct RouteBest {
-    int sprint = -1;    // the line that lies next from the square
-    int row = -1;       // -1: none yet
+    int sprint = -1; // the line that lies next from the square
+    int row = -1;    // -1: none yet
     int lane = -1;
-    int own = 0;        // team-mates in the chains of riders beside the square
-    int oppAhead = 0;   // opponents in the chain ahead
+    int own = 0;      // team-mates in the chains of riders beside the square
+    int oppAhead = 0; // opponents in the chain ahead
     int oppBehind = 0;
     int near = 99;      // steps to the nearest team-mate in those chains
     double share = 0.0; // own share of the followers simulated

@@ -66,15 +66,15 @@ int compareSprints(int nextSprint, const RouteBest& best)
 {
     if (nextSprint == 0)
         return 0;
-    const int lastPlace = nextSprint == BEYOND_FINISH ? RESULT_SLOT_COUNT - 1
-                                                      : nextSprint * SPRINT_PLACES - 1;
+    const int lastPlace =
+        nextSprint == BEYOND_FINISH ? RESULT_SLOT_COUNT - 1 : nextSprint * SPRINT_PLACES - 1;
     if (race.resultSlots[lastPlace] != -1)
         return 0;
     return (nextSprint > best.sprint) - (nextSprint < best.sprint);
 }
 
-// Counts the riders who stand next to the square in its lane and have moved already: they will still
-// be there after the move.
+// Counts the riders who stand next to the square in its lane and have moved already: they will
+// still be there after the move.
 void countChain(const Candidate& candidate, int direction, int& opponents, Worth& worth)
 {
     const int lane = candidate.at.lane;

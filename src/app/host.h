@@ -4,8 +4,8 @@
 // anybody to answer, every call does nothing, so that the rules run by themselves.
 
 struct Host {
-    void (*redraw)() = nullptr;            // paint a whole frame of the present state, now
-    void (*armTimer)(int ms) = nullptr;    // call onMoveTimer(0) once after ms milliseconds
+    void (*redraw)() = nullptr;         // paint a whole frame of the present state, now
+    void (*armTimer)(int ms) = nullptr; // call onMoveTimer(0) once after ms milliseconds
 };
 
 extern Host host;

@@ -14,12 +14,12 @@ constexpr int DEFAULT_STEP_DELAY = 200;
 constexpr int SETTINGS_NUMBER_MAX = 999;
 
 struct Settings {
-    int language = LANGUAGE_ENGLISH;             // -1 while the pointer is on no language
-    int smoothMovement = 1;                      // 1 smooth, 0 stepwise
-    int stepTime = DEFAULT_STEP_TIME;            // ms between ticks of smooth movement, 0 to 999
-    float stepDistance = DEFAULT_STEP_DISTANCE;  // board units a tick, 0 to 999; 0 counts as default
-    int stepDelay = DEFAULT_STEP_DELAY;          // ms between stepwise ticks, 0 to 999
-    double ratioW = -1.0;                        // -1 and -1: no screen ratio chosen
+    int language = LANGUAGE_ENGLISH;            // -1 while the pointer is on no language
+    int smoothMovement = 1;                     // 1 smooth, 0 stepwise
+    int stepTime = DEFAULT_STEP_TIME;           // ms between ticks of smooth movement, 0 to 999
+    float stepDistance = DEFAULT_STEP_DISTANCE; // board units a tick, 0 to 999; 0 counts as default
+    int stepDelay = DEFAULT_STEP_DELAY;         // ms between stepwise ticks, 0 to 999
+    double ratioW = -1.0;                       // -1 and -1: no screen ratio chosen
     double ratioH = -1.0;
 };
 

@@ -27,7 +27,8 @@ template <typename T, int N> constexpr Table<T, N> filled(const T& value)
     return table;
 }
 
-template <typename T, int ROWS, int COLUMNS> constexpr Table2<T, ROWS, COLUMNS> filled2(const T& value)
+template <typename T, int ROWS, int COLUMNS>
+constexpr Table2<T, ROWS, COLUMNS> filled2(const T& value)
 {
     return filled<Table<T, COLUMNS>, ROWS>(filled<T, COLUMNS>(value));
 }

@@ -55,8 +55,7 @@ static void headForNextSquare()
 
 static void placeOnWay()
 {
-    const auto next =
-        std::ranges::lower_bound(motion.way, motion.wayDone, {}, &WayPoint::distance);
+    const auto next = std::ranges::lower_bound(motion.way, motion.wayDone, {}, &WayPoint::distance);
     const WayPoint& to = next == motion.way.end() ? motion.way.back() : *next;
     const WayPoint& from = next == motion.way.begin() ? to : *std::prev(next);
     const float length = to.distance - from.distance;

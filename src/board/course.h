@@ -29,13 +29,13 @@ struct CourseGrid {
     Grid courseOccupant = gridOf(-1); // rider who stands on the square
     Grid reach12 = gridOf(-1);        // furthest row from here with a throw of 12, riders left out
     Grid reach11 = gridOf(-1);
-    Grid wallOnRight = gridOf(0);     // 1 where a barrier stops the change from lane to lane + 1
-    int courseRowCount = 0;           // rows in use; those behind are NO_SQUARE
+    Grid wallOnRight = gridOf(0); // 1 where a barrier stops the change from lane to lane + 1
+    int courseRowCount = 0;       // rows in use; those behind are NO_SQUARE
     Table<int, SPRINT_COUNT> sprintRows = filled<int, SPRINT_COUNT>(-1); // last row before the line
     int finishRow = -1;
     Table<int, LAP_END_MAX> lapEndRows = filled<int, LAP_END_MAX>(-1);
     int lapEndCount = 0;
-    int lastClimbRow = 0;             // outlives the course: assembly doesn't reset it
+    int lastClimbRow = 0; // outlives the course: assembly doesn't reset it
     Table<int, RIDER_COUNT> riderLapCount{};
     std::vector<StraightPiece> courseStraights;
     std::vector<CurvePiece> courseCurves;
@@ -44,15 +44,15 @@ struct CourseGrid {
 
 extern CourseGrid course;
 
-// Digits 0 to 8 are sections in driving order; "S" and "F" behind a digit put a sprint or the finish
-// at the end of that section. A course that is ready to race has two sections behind its "F".
+// Digits 0 to 8 are sections in driving order; "S" and "F" behind a digit put a sprint or the
+// finish at the end of that section. A course that is ready to race has two sections behind its
+// "F".
 extern std::string courseText;
 
 // Builds grid, lines, laps and pieces of the course from courseText; nobody stands on it. The reach
 // tables stay empty: they are a search over the finished grid. A section that would not fit into
 // the grid is left out with all behind it, as is any character that is no part of a course.
 void assembleCourse();
-
 
 // First lane of the start grid, and the lane behind its last one. 0 to 5, or 4 to 8 on Start 2.
 int firstStartLane();
@@ -94,7 +94,8 @@ int terrainOf(int rider);
 void updateRiderLap(int rider);
 
 // Laps of a course, from 1. LAPS_DRIVEN counts the digits that end a lap, which limits a design;
-// LAPS_TITLED counts those that open one in front of the finish, which is what titles are shown for.
+// LAPS_TITLED counts those that open one in front of the finish, which is what titles are shown
+// for.
 enum LapCountMode { LAPS_DRIVEN = 0, LAPS_TITLED = 1 };
 int countCourseLaps(std::string_view text, LapCountMode mode);
 

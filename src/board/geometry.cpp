@@ -12,7 +12,8 @@ namespace
 constexpr double FULL_TURN = 6.2831853;
 constexpr double QUARTER_TURN = 1.570796325;
 
-// A place on the picture and the direction of travel there, in radians: 0 to the right, pi / 2 down.
+// A place on the picture and the direction of travel there, in radians: 0 to the right, pi / 2
+// down.
 struct Placement {
     BoardPoint at;
     double heading = 0.0;
@@ -50,7 +51,8 @@ Placement placeOn(const StraightPiece& piece, float row, float lane)
                           between(corner[3].y, corner[2].y, fr)};
     const float yc = between(corner[0].y, corner[3].y, fl);
     const float yd = between(corner[1].y, corner[2].y, fl);
-    const double across = std::hypot(static_cast<double>(a.x - b.x), static_cast<double>(a.y - b.y));
+    const double across =
+        std::hypot(static_cast<double>(a.x - b.x), static_cast<double>(a.y - b.y));
     const double turn = std::acos(std::clamp(static_cast<double>(b.y - a.y) / across, -1.0, 1.0));
     return {.at = {between(a.x, b.x, fl), between(yc, yd, fr)},
             .heading = corner[1].y <= corner[0].y ? -turn : turn};
@@ -96,8 +98,7 @@ const CurvePiece* curveOfSquare(int row, int lane)
 {
     const auto r = static_cast<float>(row);
     const auto l = static_cast<float>(lane);
-    return findPiece(course.courseStraights, r, l) ? nullptr
-                                                   : findPiece(course.courseCurves, r, l);
+    return findPiece(course.courseStraights, r, l) ? nullptr : findPiece(course.courseCurves, r, l);
 }
 
 std::optional<Placement> placeOfSquare(int row, int lane)
@@ -165,8 +166,9 @@ std::optional<Placement> placeBetweenSquares(float row, float lane)
     const float first = pathRowOfSquare(behind, l);
     const float last = pathRowOfSquare(ahead, l);
     const float part = last > first ? std::clamp((row - first) / (last - first), 0.0f, 1.0f) : 0.0f;
-    return Placement{.at = {between(from->at.x, to->at.x, part), between(from->at.y, to->at.y, part)},
-                     .heading = headingFromTo(from->at, to->at)};
+    return Placement{
+        .at = {between(from->at.x, to->at.x, part), between(from->at.y, to->at.y, part)},
+        .heading = headingFromTo(from->at, to->at)};
 }
 
 BoardPoint settle(const std::optional<Placement>& place, int rider)
@@ -189,7 +191,8 @@ float curveRowOfSquare(const CurvePiece& piece, int row, int lane)
             ++(r <= row ? before : behind);
     if (before + behind == 0)
         return static_cast<float>(row);
-    const float part = static_cast<float>(2 * (before - 1) + 1) / static_cast<float>(2 * (before + behind));
+    const float part =
+        static_cast<float>(2 * (before - 1) + 1) / static_cast<float>(2 * (before + behind));
     return piece.rowFrom + part * (piece.rowTo - piece.rowFrom);
 }
 
@@ -243,9 +246,8 @@ void closeWay(std::vector<WayPoint>& way, const Placement& end)
 void followRoad(std::vector<WayPoint>& way, float fromRow, float toRow, float lane)
 {
     const auto place = placeOnPiece(toRow, lane);
-    const bool bends =
-        !place ||
-        std::abs(std::remainder(place->heading - way.back().heading, FULL_TURN)) > SHARPEST_TURN;
+    const bool bends = !place || std::abs(std::remainder(place->heading - way.back().heading,
+                                                         FULL_TURN)) > SHARPEST_TURN;
     if (toRow - fromRow > SAMPLE_ROWS || (bends && toRow - fromRow > FINEST_ROWS)) {
         const float middle = (fromRow + toRow) / 2;
         followRoad(way, fromRow, middle, lane);

@@ -12,16 +12,16 @@
 BoardPoint boardPointOfSquare(int row, int lane, int rider);
 
 // Where a point between squares lies; on a curve the row is a real position on the arc. Sets the
-// heading of `rider`. Where no piece of this lap holds the point it lies straight between the squares
-// of the lane around it.
+// heading of `rider`. Where no piece of this lap holds the point it lies straight between the
+// squares of the lane around it.
 BoardPoint boardPointOnPath(float row, float lane, int rider);
 
-// The real row at which a square of a curve piece lies: the real squares of a lane are spread evenly
-// along its arc, whatever rows they have.
+// The real row at which a square of a curve piece lies: the real squares of a lane are spread
+// evenly along its arc, whatever rows they have.
 float curveRowOfSquare(const CurvePiece& piece, int row, int lane);
 
-// The position of a square along its lane: the square's row, or its real row on the curve piece that
-// holds it.
+// The position of a square along its lane: the square's row, or its real row on the curve piece
+// that holds it.
 float pathRowOfSquare(int row, int lane);
 
 // The way on the picture from one square to the next of a route: along the road within a lane,

@@ -4,7 +4,8 @@
 
 #include <span>
 
-// Board coordinates: the picture of the board covers 1954 by 1152 units, x to the right, y downward.
+// Board coordinates: the picture of the board covers 1954 by 1152 units, x to the right, y
+// downward.
 constexpr float BOARD_WIDTH = 1954.0f;
 constexpr float BOARD_HEIGHT = 1152.0f;
 

@@ -2,8 +2,8 @@
 
 // Which strength card may go where, the throw, and the cards won from event cards.
 
-// Lays a playable card in playedCards or, in the hand-in states, in handInCards. What a rule forbids
-// is ignored.
+// Lays a playable card in playedCards or, in the hand-in states, in handInCards. What a rule
+// forbids is ignored.
 void pickCard(int slot);
 
 // Takes back the card in place 0 or 1 of playedCards or handInCards. The doping card stays.

@@ -125,7 +125,6 @@ void movePlacingCursor(int rows, int lanes)
     if (gameState != STATE_PLACE_HUMAN)
         return;
     race.placingRow = std::clamp(race.placingRow + rows, 0, START_ROWS - 1);
-    race.placingLane =
-        std::clamp(race.placingLane + lanes, firstStartLane(), endStartLane() - 1);
+    race.placingLane = std::clamp(race.placingLane + lanes, firstStartLane(), endStartLane() - 1);
     redrawNow();
 }

@@ -13,10 +13,10 @@
 constexpr int RIDER_COUNT = 16;
 constexpr int TEAM_COUNT = 4;
 constexpr int RIDERS_PER_TEAM = 4;
-constexpr int SET_CARD_COUNT = 14;       // slots 0 to 13, the same set for each team
-constexpr int WON_CARD_COUNT = 4;        // slots 14 to 17
+constexpr int SET_CARD_COUNT = 14; // slots 0 to 13, the same set for each team
+constexpr int WON_CARD_COUNT = 4;  // slots 14 to 17
 constexpr int CARD_SLOT_COUNT = SET_CARD_COUNT + WON_CARD_COUNT;
-constexpr int DOPING_CARD = 99;          // in a slot of playedCards
+constexpr int DOPING_CARD = 99; // in a slot of playedCards
 constexpr int BLUE_CARD = 6;
 constexpr int WHITE_CARD = 5;
 constexpr int PATH_MAX = 50;
@@ -28,7 +28,7 @@ constexpr int NAME_LENGTH_MAX = 12;
 
 constexpr int CARD_AVAILABLE = 0;
 constexpr int CARD_SPENT = 1;
-constexpr int CARD_NONE = -1;            // a slot for won cards that has never held one
+constexpr int CARD_NONE = -1; // a slot for won cards that has never held one
 
 struct Square {
     int row = -1;
@@ -37,7 +37,7 @@ struct Square {
 };
 
 struct Rider {
-    int row = -1;             // on the course; -1 until placed; kept while off the board
+    int row = -1; // on the course; -1 until placed; kept while off the board
     int lane = -1;
     int skipTurns = 0;        // turns still to miss
     int offBoard = 0;         // lifted off the board until a round end
@@ -46,8 +46,8 @@ struct Rider {
     std::uint8_t isHuman = 0; // the same for all four riders of a team
     int finished = 0;         // off the board for good
     int disqualified = 0;
-    double heading = 0.0;     // radians, for drawing
-    float x = 0.0f;           // board units, for drawing
+    double heading = 0.0; // radians, for drawing
+    float x = 0.0f;       // board units, for drawing
     float y = 0.0f;
 };
 
@@ -66,25 +66,25 @@ struct RaceState {
     Table2<int, TEAM_COUNT, WON_CARD_COUNT> wonCardValue{};
 
     Table<int, TEAM_COUNT> teamThrow{}; // -1 to throw yet, 0 out of the re-throw
-    int firstPlacer = -1;                    // rider who is placed first
-    int placingRow = 0;                      // cursor; -1 and -1 when placing is over
+    int firstPlacer = -1;               // rider who is placed first
+    int placingRow = 0;                 // cursor; -1 and -1 when placing is over
     int placingLane = 0;
 
     // The turn in hand.
     int currentRider = -1;
     Table<int, 2> dice{};        // the values that count, thrown or from cards
     Table<int, 2> playedCards{}; // card slot in place of each die, or DOPING_CARD
-    int breakaway = 0;                // nobody may follow this move
-    int movesTotal = 0;               // dice sum, what the search calls a big or small throw
-    int moveBudget = 0;               // squares that the rider may move, -1 before the throw
+    int breakaway = 0;           // nobody may follow this move
+    int movesTotal = 0;          // dice sum, what the search calls a big or small throw
+    int moveBudget = 0;          // squares that the rider may move, -1 before the throw
     int stepsTaken = 0;
-    int extraMoves = 0;               // from an event card or a card handed in for it
-    int bonusMoves = 0;               // value of a won card used at once
+    int extraMoves = 0; // from an event card or a card handed in for it
+    int bonusMoves = 0; // value of a won card used at once
     int extraDie = -1;
     int dopingCardValue = 0;
     Table<int, 2> handInCards{};
     int followerRider = -1;
-    int eventRider = -1;              // who drew the lost turn or crash in hand
+    int eventRider = -1; // who drew the lost turn or crash in hand
     float moveStartRow = 0.0f;
     float moveStartLane = 0.0f;
     float moveEndRow = 0.0f;
@@ -108,9 +108,9 @@ struct StageRecord {
 // What lasts from race to race. isHuman lasts too and stands on the riders.
 struct RaceSetup {
     Table<std::string, TEAM_COUNT> teamName; // Latin-1, at most 12 characters
-    bool eventCardsOn = false;                    // the cards themselves are yet to come
-    bool multiStage = false;                      // race files are yet to come
-    std::string raceName;                         // Latin-1, at most 12 characters
+    bool eventCardsOn = false;               // the cards themselves are yet to come
+    bool multiStage = false;                 // race files are yet to come
+    std::string raceName;                    // Latin-1, at most 12 characters
     std::vector<StageRecord> raceStages;
 };
 

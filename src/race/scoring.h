@@ -17,14 +17,14 @@ constexpr Table<int, RESULT_SLOT_COUNT> placePoints = {
 void recordCrossing(int fromRow, int toRow, int rider);
 
 struct StagePoints {
-    Table<int, RIDER_COUNT> sprint{};                                   // sprint points
-    Table<int, RIDER_COUNT> place = filled<int, RIDER_COUNT>(-1);       // finish place from 0, or -1
-    Table<int, RIDER_COUNT> total = filled<int, RIDER_COUNT>(-1);       // -1 without a finish place
+    Table<int, RIDER_COUNT> sprint{};                             // sprint points
+    Table<int, RIDER_COUNT> place = filled<int, RIDER_COUNT>(-1); // finish place from 0, or -1
+    Table<int, RIDER_COUNT> total = filled<int, RIDER_COUNT>(-1); // -1 without a finish place
     Table<int, TEAM_COUNT> team{};
 };
 
-// The result of one stage. Sprint points count only for a rider who has finished; while the stage is
-// running they are shown for everyone.
+// The result of one stage. Sprint points count only for a rider who has finished; while the stage
+// is running they are shown for everyone.
 StagePoints stagePoints(const Table<int, RESULT_SLOT_COUNT>& slots, bool running);
 
 struct GeneralPoints {

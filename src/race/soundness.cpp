@@ -86,7 +86,8 @@ std::string raceFault()
     if (std::string fault = gridFault(); !fault.empty())
         return fault;
     for (int line = 0; line < LINE_COUNT; ++line)
-        if (std::string fault = placesFault(line, line < SPRINT_COUNT ? SPRINT_PLACES : RIDER_COUNT);
+        if (std::string fault =
+                placesFault(line, line < SPRINT_COUNT ? SPRINT_PLACES : RIDER_COUNT);
             !fault.empty())
             return fault;
     return cardsFault();

@@ -26,8 +26,8 @@ static void clearMove()
     race.moveBudget = -1;
 }
 
-// The rider who has come in leaves the board for good, and with him the followers who stand directly
-// behind him past the finish.
+// The rider who has come in leaves the board for good, and with him the followers who stand
+// directly behind him past the finish.
 static void takeFinishersOff()
 {
     if (race.currentRider == -1)
@@ -59,9 +59,8 @@ static void clearThrow()
 
 static bool roundIsOver()
 {
-    return std::ranges::all_of(race.riders, [](const Rider& rider) {
-        return rider.hasMoved != 0 || rider.skipTurns > 0;
-    });
+    return std::ranges::all_of(
+        race.riders, [](const Rider& rider) { return rider.hasMoved != 0 || rider.skipTurns > 0; });
 }
 
 static void placeAt(int rider, Square square)
@@ -101,8 +100,7 @@ static void setRidersBack()
         });
         if (rider == -1)
             return;
-        const Square square =
-            nearestFreeBehind({race.riders[rider].row, race.riders[rider].lane});
+        const Square square = nearestFreeBehind({race.riders[rider].row, race.riders[rider].lane});
         if (square == Square{}) {
             passedOver[rider] = true;
             continue;
@@ -143,9 +141,8 @@ static void endRound()
 
 static void chooseNextRider()
 {
-    race.currentRider = frontMostRider([](const Rider& rider) {
-        return rider.row <= course.finishRow && rider.hasMoved == 0;
-    });
+    race.currentRider = frontMostRider(
+        [](const Rider& rider) { return rider.row <= course.finishRow && rider.hasMoved == 0; });
     if (race.currentRider != -1) {
         view.shownTeam = riderTeam(race.currentRider);
         updateRiderLap(race.currentRider);

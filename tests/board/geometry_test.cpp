@@ -20,7 +20,6 @@ namespace
 
 constexpr float TICK = 10.0f;
 
-
 float distance(BoardPoint a, BoardPoint b)
 {
     return std::hypot(a.x - b.x, a.y - b.y);
@@ -40,18 +39,19 @@ std::vector<Square> laneFrom(int row, int lane)
 template <typename Visit> void carry(const std::vector<Square>& squares, Visit visit)
 {
     for (std::size_t first = 0; first + 1 < squares.size(); first += PATH_MAX - 2) {
-        race.moveBudget = static_cast<int>(
-            std::min<std::size_t>(squares.size() - 1 - first, PATH_MAX - 2));
+        race.moveBudget =
+            static_cast<int>(std::min<std::size_t>(squares.size() - 1 - first, PATH_MAX - 2));
         for (int i = 0; i <= race.moveBudget; ++i) {
             const Square& square = squares[first + static_cast<std::size_t>(i)];
-            race.pathSquares[i] = {static_cast<float>(square.row),
-                                   static_cast<float>(square.lane)};
+            race.pathSquares[i] = {static_cast<float>(square.row), static_cast<float>(square.lane)};
         }
         race.currentRider = 0;
         race.stepsTaken = 0;
         restMotion();
         gameState = STATE_ANIMATE;
-        for (onMoveTimer(0); race.stepsTaken < race.moveBudget || motion.way.back().distance > motion.wayDone + 1.5f * TICK; onMoveTimer(0))
+        for (onMoveTimer(0); race.stepsTaken < race.moveBudget ||
+                             motion.way.back().distance > motion.wayDone + 1.5f * TICK;
+             onMoveTimer(0))
             visit();
     }
 }
@@ -118,7 +118,8 @@ TEST(Animation, CarriesRidersEvenlyAlongEveryLane)
                 carry(squares, [&] {
                     const Rider& rider = race.riders[0];
                     const BoardPoint now = {rider.x, rider.y};
-                    const double turn = std::remainder(rider.heading - heading, 2 * std::numbers::pi);
+                    const double turn =
+                        std::remainder(rider.heading - heading, 2 * std::numbers::pi);
                     if (!first) {
                         EXPECT_GT(distance(last, now), TICK * 2 / 3)
                             << text << " lane " << lane << " row " << rider.row;

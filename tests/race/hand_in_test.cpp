@@ -3,7 +3,6 @@
 #include "app/game_state.h"
 #include "app/view.h"
 #include "board/course.h"
-#include "race/card_rules.h"
 #include "race/cards.h"
 #include "support/races.h"
 
@@ -13,29 +12,24 @@ namespace
 {
 
 constexpr std::string_view ONE_LAP = "01S23S4S5F12";
-constexpr Placed FLAT = {.rider = 0, .row = 13, .lane = 2};
-constexpr Placed COBBLES = {.rider = 0, .row = 61, .lane = 4};
-constexpr Placed MOUNTAIN = {.rider = 0, .row = 32, .lane = 2};
+constexpr Square FLAT = {13, 2};
+constexpr Square COBBLES = {61, 4};
+constexpr Square MOUNTAIN = {32, 2};
 
-Placed at(Placed place, int rider)
-{
-    place.rider = rider;
-    return place;
-}
+using Cards = Table<int, 2>;
+using Slots = std::vector<int>;
 
-// A person's rider has thrown 3 and 4 and drawn a card that costs him turns.
-void drawLostTurns(const Placed& place, int skipTurns)
+// Rider 0, a person's, has thrown 7 and drawn a card that costs him turns. Rider 15 comes next.
+void drawLostTurns(Square square, int skipTurns)
 {
-    setUpPersonsRace(ONE_LAP, {place, {15, 6, 0}});
-    beginPersonsMove(place.rider, 7);
-    race.dice = {3, 4};
-    race.eventRider = place.rider;
-    race.riders[place.rider].skipTurns = skipTurns;
-    gameState = STATE_TRANSIT;
+    setUpPersonsRace(ONE_LAP, {{0, square.row, square.lane}, {15, 6, 0}});
+    beginPersonsMove(0, 7);
+    race.eventRider = 0;
+    race.riders[0].skipTurns = skipTurns;
     askHandIn();
 }
 
-void spendAllCardsBut(int team, std::initializer_list<int> left)
+void leaveOnlyCards(int team, std::initializer_list<int> left)
 {
     for (int slot = 0; slot < SET_CARD_COUNT; ++slot)
         race.cardUsed[team][slot] = CARD_SPENT;
@@ -43,79 +37,71 @@ void spendAllCardsBut(int team, std::initializer_list<int> left)
         race.cardUsed[team][slot] = CARD_AVAILABLE;
 }
 
-std::vector<int> cardsSpent(int team)
+// What a computer rider of the first team pays for turns to miss, which a person drew for him.
+Slots paidBy(int rider, Square square, int skipTurns)
 {
-    std::vector<int> spent;
+    setUpRace(ONE_LAP, {{rider, square.row, square.lane, true}, {12, 6, 0}});
+    makeHuman(3);
+    race.currentRider = rider;
+    race.eventRider = 12;
+    race.riders[rider].skipTurns = skipTurns;
+    computerHandIn();
+    Slots paid;
     for (int slot = 0; slot < SET_CARD_COUNT; ++slot)
-        if (race.cardUsed[team][slot] == CARD_SPENT)
-            spent.push_back(slot);
-    return spent;
+        if (race.cardUsed[0][slot] == CARD_SPENT)
+            paid.push_back(slot);
+    return paid;
 }
 
-// A computer rider answers for turns to miss, another rider having drawn the card.
-void computerAnswers(const Placed& place, int skipTurns)
+bool missesTurn(int rider)
 {
-    setUpRace(ONE_LAP, {place, {12, 6, 0}});
-    makeHuman(3);
-    race.currentRider = place.rider;
-    race.riders[place.rider].skipTurns = skipTurns;
-    race.riders[place.rider].pendingHandIn = race.riders[place.rider].hasMoved = 1;
-    race.eventRider = 12;
+    return race.riders[rider].offBoard && race.riders[rider].hasMoved;
 }
 
 } // namespace
 
-TEST(AskHandIn, OnlyCardsThatHeMayHandInCount)
+TEST(HandIn, OnlyCardsThatHeMayHandInCount)
 {
-    setUpPersonsRace(ONE_LAP, {MOUNTAIN, at(FLAT, 4)});
+    setUpPersonsRace(ONE_LAP, {{0, MOUNTAIN.row, MOUNTAIN.lane}, {4, FLAT.row, FLAT.lane}});
     race.currentRider = 0;
-    spendAllCardsBut(0, {0, 1, 8, 10}); // blue ones, and a white one of the fourth rider
+    leaveOnlyCards(0, {0, 1, 8, 10}); // blue ones, and a white one of the fourth rider
     askHandIn();
     EXPECT_EQ(gameState, STATE_SKIP_NO_CARD);
-
-    race.wonCardRider[0][1] = 0; // a won white card
+    race.wonCardRider[0][1] = 0;
     race.wonCardValue[0][1] = WHITE_CARD;
     race.cardUsed[0][15] = CARD_AVAILABLE;
     askHandIn();
     EXPECT_EQ(gameState, STATE_SKIP_HANDIN);
 
-    race.currentRider = 4; // the same cards on the flat
-    spendAllCardsBut(1, {10});
+    race.currentRider = 4;
+    leaveOnlyCards(1, {10}); // blue, but on the flat
     askHandIn();
     EXPECT_EQ(gameState, STATE_SKIP_HANDIN);
 }
 
-TEST(HandIn, EachCardBuysOffATurn)
+TEST(HandIn, WhoPaysForEveryTurnKeepsHisThrow)
 {
     drawLostTurns(FLAT, 2);
     pickCard(2);
     pickCard(10);
     confirmHandIn();
-    EXPECT_EQ(race.riders[0].skipTurns, 0);
-    EXPECT_EQ(gameState, STATE_MOVE); // he paid for all and keeps his throw
+    EXPECT_EQ(gameState, STATE_MOVE);
     EXPECT_EQ(race.currentRider, 0);
     EXPECT_EQ(race.moveBudget, 7);
-    EXPECT_EQ(race.riders[0].hasMoved, 0);
 }
 
-TEST(HandIn, WhoDoesNotPayForAllLosesHisTurn)
+TEST(HandIn, WhoPaysForSomeMissesOne)
 {
     drawLostTurns(FLAT, 2);
     pickCard(2);
     confirmHandIn();
-    EXPECT_EQ(race.riders[0].offBoard, 1);
-    EXPECT_EQ(race.riders[0].hasMoved, 1);
-    EXPECT_EQ(race.riders[0].skipTurns, 0);
-    EXPECT_EQ(gameState, STATE_TURN);
+    EXPECT_TRUE(missesTurn(0));
+    EXPECT_EQ(race.riders[0].skipTurns, 0); // and is back from the next round on
     EXPECT_EQ(race.currentRider, 15);
-    EXPECT_EQ(race.cardUsed[0][2], CARD_SPENT);
-}
+    EXPECT_EQ(gameState, STATE_TURN);
 
-TEST(HandIn, WithoutACardHeMissesAllHisTurns)
-{
     drawLostTurns(FLAT, 2);
     confirmHandIn();
-    EXPECT_EQ(race.riders[0].offBoard, 1);
     EXPECT_EQ(race.riders[0].skipTurns, 1);
 }
 
@@ -124,7 +110,7 @@ TEST(HandIn, AsManyCardsAsTurnsButOneOnCobbles)
     drawLostTurns(FLAT, 1);
     pickCard(2);
     pickCard(3);
-    EXPECT_EQ(race.handInCards, (Table<int, 2>{2, -1}));
+    EXPECT_EQ(race.handInCards, (Cards{2, -1}));
     EXPECT_EQ(race.cardUsed[0][3], CARD_AVAILABLE);
 
     drawLostTurns(FLAT, 2);
@@ -132,48 +118,44 @@ TEST(HandIn, AsManyCardsAsTurnsButOneOnCobbles)
     pickCard(3);
     unpickCard(0);
     pickCard(13);
-    EXPECT_EQ(race.handInCards, (Table<int, 2>{13, 3}));
-    EXPECT_EQ(cardsSpent(0), (std::vector{3, 13}));
+    EXPECT_EQ(race.handInCards, (Cards{13, 3}));
+    EXPECT_EQ(race.cardUsed[0][2], CARD_AVAILABLE);
 
     drawLostTurns(COBBLES, 2);
     pickCard(2);
     pickCard(3);
-    EXPECT_EQ(race.handInCards, (Table<int, 2>{2, -1}));
+    EXPECT_EQ(race.handInCards, (Cards{2, -1}));
 
     drawLostTurns(MOUNTAIN, 2);
-    pickCard(0);
+    pickCard(0); // blue
     pickCard(12);
-    EXPECT_EQ(race.handInCards, (Table<int, 2>{12, -1}));
+    EXPECT_EQ(race.handInCards, (Cards{12, -1}));
 }
 
 TEST(HandIn, OneCardForFourMoves)
 {
-    setUpPersonsRace(ONE_LAP, {FLAT});
-    beginPersonsMove(0, 7);
+    drawLostTurns(FLAT, 0);
     gameState = STATE_EVENT_HANDIN;
     confirmHandIn();
     EXPECT_EQ(gameState, STATE_EVENT_HANDIN); // not without a card
     pickCard(1);
     pickCard(2);
-    EXPECT_EQ(race.handInCards, (Table<int, 2>{1, -1}));
+    EXPECT_EQ(race.handInCards, (Cards{1, -1}));
     confirmHandIn();
     EXPECT_EQ(gameState, STATE_MOVE);
     EXPECT_EQ(race.moveBudget, 11);
     EXPECT_EQ(race.extraMoves, 4);
-    EXPECT_EQ(race.currentRider, 0);
 }
 
 TEST(HandIn, CrashedRidersAnswerFrontToBack)
 {
-    setUpPersonsRace(ONE_LAP, {{4, 13, 2, true}, {9, 15, 1}, {0, 13, 3}, {15, 6, 0}});
-    for (const int rider : {4, 0, 9}) {
-        race.riders[rider].skipTurns = 1;
-        race.riders[rider].pendingHandIn = 1;
-    }
+    setUpPersonsRace(ONE_LAP, {{4, 13, 2, true}, {9, 15, 1}, {0, 13, 3}});
+    for (const int rider : {4, 0, 9})
+        race.riders[rider].skipTurns = race.riders[rider].pendingHandIn = 1;
+    leaveOnlyCards(1, {});
     beginPersonsMove(9, 7);
     race.eventRider = 9;
     askHandIn();
-    spendAllCardsBut(1, {}); // rider 4 has none
     confirmHandIn();
     EXPECT_EQ(race.currentRider, 0);
     EXPECT_EQ(gameState, STATE_SKIP_HANDIN);
@@ -182,58 +164,37 @@ TEST(HandIn, CrashedRidersAnswerFrontToBack)
     confirmHandIn();
     EXPECT_EQ(race.currentRider, 4);
     EXPECT_EQ(gameState, STATE_SKIP_NO_CARD);
-    EXPECT_EQ(race.handInCards, (Table<int, 2>{-1, -1})); // rider 0's card is not his
-    confirmHandIn();
-    EXPECT_EQ(race.riders[4].offBoard, 1);
-    EXPECT_EQ(race.currentRider, 0); // the rider who drew the card lost his turn, rider 0 has his
-    EXPECT_EQ(gameState, STATE_TURN);
-    EXPECT_EQ(nextPendingRider(), -1);
+    confirmHandIn(); // the card of rider 0 isn't his
+    EXPECT_TRUE(missesTurn(4));
+    EXPECT_EQ(gameState, STATE_TURN); // rider 9, who drew the card, has lost his turn
+    EXPECT_EQ(race.currentRider, 0);
 }
 
 TEST(HandIn, OthersAnswersDontTouchTheTurnInHand)
 {
-    setUpPersonsRace(ONE_LAP, {{4, 13, 2, true}, {9, 15, 1}, {15, 6, 0}});
-    race.riders[4].skipTurns = race.riders[4].pendingHandIn = 1;
+    setUpPersonsRace(ONE_LAP, {{4, 13, 2, true}, {9, 15, 1}});
+    race.riders[4].skipTurns = race.riders[4].pendingHandIn = race.riders[9].skipTurns = 1;
     beginPersonsMove(9, 7);
     race.eventRider = 9;
-    race.riders[9].skipTurns = 1;
     askHandIn();
     pickCard(12);
     confirmHandIn();
     EXPECT_EQ(race.currentRider, 4);
     confirmHandIn(); // he pays nothing, though he has moved already
-    EXPECT_EQ(race.riders[4].offBoard, 1);
+    EXPECT_TRUE(missesTurn(4));
     EXPECT_EQ(occupant(13, 2), -1);
     EXPECT_EQ(race.currentRider, 9);
     EXPECT_EQ(gameState, STATE_MOVE);
 }
 
-TEST(ComputerHandIn, OwnCardsBeforeTheTeams)
+TEST(ComputerHandIn, PaysAllHeCanHisOwnCardsFirst)
 {
-    computerAnswers(at(FLAT, 1), 2);
-    race.cardUsed[0][5] = CARD_SPENT;
-    computerHandIn();
-    EXPECT_EQ(cardsSpent(0), (std::vector{4, 5, 10}));
-    EXPECT_EQ(race.riders[1].skipTurns, 0);
-    EXPECT_EQ(race.riders[1].offBoard, 0);
-    EXPECT_EQ(race.riders[1].pendingHandIn, 0);
-}
-
-TEST(ComputerHandIn, OneCardOnCobbles)
-{
-    computerAnswers(at(COBBLES, 0), 2);
-    computerHandIn();
-    EXPECT_EQ(cardsSpent(0), (std::vector{0}));
-    EXPECT_EQ(race.riders[0].skipTurns, 0); // one paid, one missed
-    EXPECT_EQ(race.riders[0].offBoard, 1);
-}
-
-TEST(ComputerHandIn, NoBlueCardOnAMountain)
-{
-    computerAnswers(at(MOUNTAIN, 2), 1);
-    computerHandIn();
-    EXPECT_EQ(cardsSpent(0), (std::vector{12}));
-    EXPECT_EQ(race.riders[2].offBoard, 0);
+    EXPECT_EQ(paidBy(1, FLAT, 2), (Slots{4, 5}));
+    EXPECT_FALSE(missesTurn(1));
+    EXPECT_EQ(paidBy(2, MOUNTAIN, 2), (Slots{12, 13})); // his own are blue
+    EXPECT_EQ(paidBy(3, COBBLES, 2), (Slots{8}));
+    EXPECT_TRUE(missesTurn(3));
+    EXPECT_EQ(race.riders[3].skipTurns, 0);
 }
 
 TEST(ComputerHandIn, WhoDrewTheCardAndPaidMovesByHisThrow)
@@ -242,12 +203,9 @@ TEST(ComputerHandIn, WhoDrewTheCardAndPaidMovesByHisThrow)
     makeHuman(3);
     beginPersonsTurn(1);
     race.dice = {2, 3};
-    race.movesTotal = 5;
     race.riders[1].skipTurns = 1;
     race.eventRider = 1;
-    gameState = STATE_TRANSIT;
     computerHandIn();
     EXPECT_EQ(gameState, STATE_ANIMATE);
-    EXPECT_EQ(race.currentRider, 1);
     EXPECT_EQ(race.pathSquares[race.moveBudget].row, 107.0f);
 }
