@@ -20,7 +20,7 @@ struct Shades {
 };
 
 // The four lie apart in lightness as well as in hue.
-constexpr Shades FLAT{rgb(0xebe5d6), rgb(0xebe5d6), 1};
+constexpr Shades FLAT{rgb(0xc3c5cb), rgb(0xc3c5cb), 1};
 constexpr Shades COBBLES{rgb(0xc9b48a), rgb(0x93784c), 4};
 constexpr Shades CLIMB{rgb(0xcf7a50), rgb(0x94202f), 5};
 constexpr Shades DESCENT{rgb(0xa4da94), rgb(0x3f9f63), 4};

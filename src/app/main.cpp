@@ -8,6 +8,7 @@
 #include "ui/frame.h"
 #include "ui/loading.h"
 #include "ui/reshape.h"
+#include "ui/settings_screen.h"
 #include "ui/texts.h"
 #include "ui/textures.h"
 
@@ -48,6 +49,7 @@ static void registerCallbacks()
     glutMouseFunc(onMouse);
     glutMotionFunc(onDrag);
     glutPassiveMotionFunc(onHover);
+    glutKeyboardFunc(onKeyDown);
     glutKeyboardUpFunc(onKeyUp);
     glutSpecialUpFunc(onSpecialUp);
     glutCloseFunc(onClose);
@@ -65,6 +67,7 @@ int main(int argc, char** argv)
     if (!loadTextures())
         return 0;
     readSettings();
+    fillSettingsFields(settings);
     loadTexts();
     gameState = STATE_LOADING;
     glutMainLoop();

@@ -38,6 +38,8 @@ void confirmTeamSetup()
         if (raceSetup.teamName[team].empty())
             teamSetup.setupMessages.push_back(
                 withNumber(texts.enterPlayerName, riderNumber(team * RIDERS_PER_TEAM)));
+    if (raceSetup.multiStage && raceSetup.raceName.empty())
+        teamSetup.setupMessages.push_back(texts.enterRaceName);
     if (!teamSetup.setupMessages.empty()) {
         enter(STATE_SETUP_MESSAGE);
         return;

@@ -3,9 +3,14 @@
 #include "app/game_state.h"
 #include "app/host.h"
 #include "app/overlays.h"
+#include "app/table.h"
 #include "app/view.h"
 #include "board/course.h"
 #include "input/actions.h"
+#include "input/course_input.h"
+#include "input/menu_input.h"
+#include "input/settings_input.h"
+#include "input/setup_input.h"
 #include "race/cards.h"
 #include "race/following.h"
 #include "race/hand_in.h"
@@ -16,6 +21,8 @@
 #include "ui/access_keys.h"
 
 #include <GL/freeglut.h>
+
+#include <utility>
 
 constexpr unsigned char TAB = 9;
 constexpr unsigned char ENTER = 13;
@@ -71,9 +78,10 @@ constexpr LetterAction quitLetters[] =     {{CONTROL_YES, toMainMenu}, {CONTROL_
 constexpr LetterAction kindLetters[] =     {{CONTROL_BLUE, receiveBlueCard}, {CONTROL_WHITE, receiveWhiteCard}};
 constexpr LetterAction whenLetters[] =     {{CONTROL_IMMEDIATELY, useCardNow}, {CONTROL_LATER, keepCard}};
 constexpr LetterAction finalLetters[] =    {{CONTROL_QUIT, toMainMenu}};
-constexpr LetterAction menuLetters[] =     {{CONTROL_START, openTeamSetup}, {CONTROL_EXIT, exitProgram}};
-constexpr LetterAction courseLetters[] =   {{CONTROL_COURSE_BACK, leaveCourseSelection}};
-constexpr LetterAction panelLetters[] =    {{CONTROL_QUIT, openQuitConfirm}};
+constexpr LetterAction menuLetters[] =     {{CONTROL_START, openTeamSetup}, {CONTROL_MANUAL, openManual}, {CONTROL_MENU_SETTINGS, openSettings},
+                                            {CONTROL_LANGUAGE, openLanguages}, {CONTROL_EXIT, exitProgram}};
+constexpr LetterAction courseLetters[] =   {{CONTROL_CREATE_COURSE, openCourseDesigner}, {CONTROL_SAVED_COURSE, openSavedCourses}, {CONTROL_COURSE_BACK, leaveCourseSelection}};
+constexpr LetterAction panelLetters[] =    {{CONTROL_QUIT, openQuitConfirm}, {CONTROL_RACE_SETTINGS, openSettings}};
 // clang-format on
 
 static void letterOfState(unsigned char key)
@@ -111,21 +119,22 @@ static bool isConfirming(unsigned char key)
     return key == ENTER || key == SPACE || key == 'o' || key == 'O';
 }
 
-static void confirmingKey()
+// What "OK" does in the present state, or null where the confirming keys are keys like any other.
+static void (*confirmation())()
 {
     switch (gameState) {
     case STATE_SKIP_HANDIN:
     case STATE_EVENT_HANDIN:
     case STATE_SKIP_NO_CARD:
-        return confirmHandIn();
+        return confirmHandIn;
     case STATE_EVENT_NO_CARD:
-        return goOnWithoutEventCard();
+        return goOnWithoutEventCard;
     case STATE_NO_MOVE:
-        return leaveRound();
+        return leaveRound;
     case STATE_SETUP_MESSAGE:
-        return closeSetupMessage();
+        return closeSetupMessage;
     default:
-        return;
+        return nullptr;
     }
 }
 
@@ -146,9 +155,19 @@ static void keyOfState(unsigned char key)
     case STATE_MOVE:
     case STATE_PLACE_HUMAN:
         return steeringKey(key);
+    case STATE_TEAM_SETUP:
+        return keyInTeamSetup(key);
+    case STATE_COURSE_DESIGN:
+        return keyInCourseDesigner(key);
+    case STATE_MANUAL:
+        return keyInManual(key);
+    case STATE_SETTINGS:
+        return keyInSettings(key);
     default:
-        return isConfirming(key) ? confirmingKey() : letterOfState(key);
+        break;
     }
+    void (*const confirm)() = isConfirming(key) ? confirmation() : nullptr;
+    confirm ? confirm() : letterOfState(key);
 }
 
 static void teamTabKey(bool backward)
@@ -158,6 +177,26 @@ static void teamTabKey(bool backward)
     showTeam((view.shownTeam + (backward ? TEAM_COUNT - 1 : 1)) % TEAM_COUNT);
 }
 
+// Each letter as it was last pressed, by its small form; 0 before.
+static Table<unsigned char, 256> pressedAs{};
+
+static unsigned char smallLetter(unsigned char key)
+{
+    const bool capital = (key >= 'A' && key <= 'Z') || (key >= 0xC0 && key <= 0xDE && key != 0xD7);
+    return static_cast<unsigned char>(capital ? key + ('a' - 'A') : key);
+}
+
+void onKeyDown(unsigned char key, int, int)
+{
+    pressedAs[smallLetter(key)] = key;
+}
+
+static unsigned char asPressed(unsigned char key)
+{
+    const unsigned char pressed = std::exchange(pressedAs[smallLetter(key)], 0);
+    return pressed != 0 ? pressed : key;
+}
+
 // A key does its work in the present state and is then looked at again by the race panel, in the
 // state that is left: where one letter has both meanings it does both.
 void onKeyUp(unsigned char key, int, int)
@@ -165,6 +204,7 @@ void onKeyUp(unsigned char key, int, int)
     const int held = heldModifiers();
     if (held & (GLUT_ACTIVE_CTRL | GLUT_ACTIVE_ALT))
         return;
+    key = asPressed(key);
     keyOfState(key);
     if (racePanelActive())
         actOnLetter(key, panelLetters);
@@ -262,6 +302,12 @@ void onSpecialUp(int key, int, int)
         steer(key);
     else if (gameState == STATE_PLACE_HUMAN)
         moveCursor(key);
+    else if (gameState == STATE_TEAM_SETUP)
+        specialInTeamSetup(key);
+    else if (gameState == STATE_MANUAL)
+        specialInManual(key);
+    else if (gameState == STATE_SETTINGS)
+        specialInSettings(key);
     else if (cardKeysAct() && key >= GLUT_KEY_F1 && key <= GLUT_KEY_F12)
         cardKey(key);
 }

@@ -7,6 +7,10 @@
 #include "board/designer.h"
 #include "board/pictures.h"
 #include "input/actions.h"
+#include "input/course_input.h"
+#include "input/menu_input.h"
+#include "input/settings_input.h"
+#include "input/setup_input.h"
 #include "race/cards.h"
 #include "race/following.h"
 #include "race/hand_in.h"
@@ -53,22 +57,24 @@ static void releaseInMainMenu(Point at)
 {
     if (at.in(menuStartButton()))
         openTeamSetup();
+    else if (at.in(menuManualButton()))
+        openManual();
+    else if (at.in(menuSettingsButton()))
+        openSettings();
+    else if (at.in(menuLanguageButton()))
+        openLanguages();
     else if (at.in(exitButton()))
         exitProgram();
-}
-
-static void releaseInTeamSetup(Point at)
-{
-    if (at.in(teamOkButton()))
-        confirmTeamSetup();
-    else if (at.in(cornerButton()))
-        toMainMenu();
 }
 
 static void releaseInCourseSelection(Point at)
 {
     if (at.in(cornerButton()))
         leaveCourseSelection();
+    else if (at.in(newCourseButton()))
+        openCourseDesigner();
+    else if (at.in(savedCourseButton()))
+        openSavedCourses();
     else
         chooseHoveredCourse();
 }
@@ -82,10 +88,20 @@ static void releaseScreen(Point at)
         return at.in(throwButton()) ? afterOrderThrow() : void();
     case STATE_MAIN_MENU:
         return releaseInMainMenu(at);
+    case STATE_LANGUAGE:
+        return chooseLanguage();
+    case STATE_MANUAL:
+        return releaseInManual(at.x, at.y);
+    case STATE_SETTINGS:
+        return releaseInSettings(at.x, at.y);
     case STATE_TEAM_SETUP:
-        return releaseInTeamSetup(at);
+        return releaseInTeamSetup(at.x, at.y);
     case STATE_COURSE_SELECT:
         return releaseInCourseSelection(at);
+    case STATE_COURSE_DESIGN:
+        return releaseInCourseDesigner(at.x, at.y);
+    case STATE_COURSE_SAVED:
+        return releaseInSavedCourses(at.x, at.y);
     default:
         return;
     }
@@ -203,8 +219,12 @@ static void pressTitleBar(Point at)
 
 static void pressSidePanel(Point at)
 {
-    if (racePanelActive() && at.in(quitButton()))
+    if (!racePanelActive())
+        return;
+    if (at.in(quitButton()))
         openQuitConfirm();
+    else if (at.in(settingsButton()))
+        openSettings();
 }
 
 // The camera button alone takes the right button too.
@@ -259,11 +279,14 @@ static void drag(const Rect& box, Point at, void (*place)(float x, float y))
     redrawNow();
 }
 
+// The row under the pointer is lit with a button held as well, so that what is lit is what counts.
 void onDrag(int x, int y)
 {
+    const Point at = inDrawingArea(x, y);
+    if (gameState == STATE_LANGUAGE)
+        hoverLanguage(at.x, at.y);
     if (!view.dragActive)
         return;
-    const Point at = inDrawingArea(x, y);
     if (dialogShown())
         drag(dialogBox(), at, placeDialog);
     else if (scorecardShown())
@@ -280,9 +303,12 @@ static int courseUnder(Point at)
 
 void onHover(int x, int y)
 {
+    const Point at = inDrawingArea(x, y);
+    if (gameState == STATE_LANGUAGE)
+        hoverLanguage(at.x, at.y);
     if (gameState != STATE_COURSE_SELECT)
         return;
-    const int hovered = courseUnder(inDrawingArea(x, y));
+    const int hovered = courseUnder(at);
     if (hovered == courseScreens.courseHover)
         return;
     courseScreens.courseHover = hovered;

@@ -61,5 +61,5 @@ void cursorFromClick(TextField field, int x, int boxX, int boxW)
 {
     const int characterW = std::max(1, boxW / field.capacity);
     const int hit = (x - boxX) / characterW;
-    field.cursor = hit >= 0 && hit <= lastPlace(field) ? hit : 0;
+    field.cursor = hit >= 0 && hit <= lengthOf(field) ? std::min(hit, lastPlace(field)) : 0;
 }

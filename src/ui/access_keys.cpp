@@ -38,6 +38,8 @@ constexpr Table<AccessKey, CONTROL_COUNT> accessKeys = {{
     {&Texts::createNewCourse,   {{  0,      0,       0,      0 }}},
     {&Texts::useSavedCourse,    {{  0,      0,       0,      0 }}},
     {&Texts::courseBack,        {{  0,      0,       0,      0 }}},
+    {&Texts::addSection,        {{  0,      0,       0,      0 }}},
+    {&Texts::previousSection,   {{  0,      0,       0,      0 }}},
 }};
 // clang-format on
 

@@ -46,8 +46,18 @@ static void drawScreenOfState()
     case STATE_TEAM_SETUP:
     case STATE_SETUP_MESSAGE:
         return drawTeamSetup();
+    case STATE_LANGUAGE:
+        return drawLanguages();
+    case STATE_MANUAL:
+        return drawManual();
+    case STATE_SETTINGS:
+        return drawSettings();
     case STATE_COURSE_SELECT:
         return drawCourseSelection();
+    case STATE_COURSE_DESIGN:
+        return drawCourseDesigner();
+    case STATE_COURSE_SAVED:
+        return drawSavedCourses();
     case STATE_FINAL_SCORECARD:
         return drawScorecard();
     default:

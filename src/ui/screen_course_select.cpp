@@ -54,8 +54,7 @@ void drawCourseSelection()
     for (int index = 0; index < FIXED_COURSE_COUNT; ++index)
         drawCourse(index);
 
-    // Grey: a course of one's own is yet to come.
-    drawControl(CONTROL_SAVED_COURSE, savedCourseButton(), false);
-    drawControl(CONTROL_CREATE_COURSE, newCourseButton(), false);
+    drawControl(CONTROL_SAVED_COURSE, savedCourseButton(), true);
+    drawControl(CONTROL_CREATE_COURSE, newCourseButton(), true);
     drawControl(CONTROL_COURSE_BACK, cornerButton(), true);
 }

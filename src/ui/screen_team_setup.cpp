@@ -5,13 +5,26 @@
 #include "ui/controls.h"
 #include "ui/layout.h"
 #include "ui/pawns.h"
+#include "ui/team_setup.h"
 #include "ui/text.h"
 #include "ui/texts.h"
 #include "ui/widgets.h"
 
-// Teams are the computer's and races have one stage without event cards until persons can play:
-// what would change that is drawn as it stands, but grey.
-constexpr bool CHOICES_OPEN = false;
+// The choice is drawn as it stands, but grey, until there are cards to play with.
+constexpr bool EVENT_CARDS_EXIST = false;
+
+// Behind the dialog of STATE_SETUP_MESSAGE everything is grey.
+static bool choicesOpen()
+{
+    return gameState == STATE_TEAM_SETUP;
+}
+
+static void drawNameField(int field, const Rect& at, const std::string& name, bool enabled)
+{
+    const bool hasCursor = enabled && teamSetup.teamActiveField == field;
+    drawTextBox(static_cast<int>(at.x), static_cast<int>(at.y), static_cast<int>(at.w),
+                static_cast<int>(at.h), name, hasCursor, teamSetup.teamCursor, enabled);
+}
 
 static void drawTeamRow(int team)
 {
@@ -19,18 +32,17 @@ static void drawTeamRow(int team)
     const Rect name = teamNameBox(team);
     const Rect box = teamComputerBox(team);
     drawPawnAt(firstRider, layout.teamNameX * 0.95f, name.y + name.h * 0.5f, SMALL_PAWN);
-    drawTextBox(static_cast<int>(name.x), static_cast<int>(name.y), static_cast<int>(name.w),
-                static_cast<int>(name.h), raceSetup.teamName[team], false, 0, CHOICES_OPEN);
+    drawNameField(team, name, raceSetup.teamName[team], choicesOpen());
     drawCheckBox(static_cast<int>(box.x), static_cast<int>(box.y),
                  static_cast<int>(layout.teamCheckSize), texts.computerPlayer, NO_ACCESS_KEY,
-                 CHOICES_OPEN, !race.riders[firstRider].isHuman);
+                 choicesOpen(), !race.riders[firstRider].isHuman);
 }
 
 static void drawStageChoice(float y, const std::string& label, bool selected)
 {
     drawRadioButton(static_cast<int>(layout.stageRadioX), static_cast<int>(y),
-                    static_cast<int>(layout.stageRowH * 0.5f), selected, CHOICES_OPEN);
-    setColour(CHOICES_OPEN ? WHITE : disabledGrey);
+                    static_cast<int>(layout.stageRowH * 0.5f), selected, choicesOpen());
+    setColour(choicesOpen() ? WHITE : disabledGrey);
     drawText(layout.stageRadioX + layout.stageRowH, y, ALIGN_LEFT, label);
 }
 
@@ -39,12 +51,11 @@ static void drawStages()
     drawStageChoice(layout.multiStageY, texts.multipleStages, raceSetup.multiStage);
     drawStageChoice(layout.singleStageY, texts.singleStage, !raceSetup.multiStage);
 
-    setColour(disabledGrey);
+    const bool named = choicesOpen() && raceSetup.multiStage;
+    setColour(named ? WHITE : disabledGrey);
     drawText(layout.stageRadioX + layout.stageRowH * 1.5f, layout.multiStageY + layout.stageRowH,
              ALIGN_LEFT, texts.raceName);
-    const Rect name = raceNameBox();
-    drawTextBox(static_cast<int>(name.x), static_cast<int>(name.y), static_cast<int>(name.w),
-                static_cast<int>(name.h), raceSetup.raceName, false, 0, false);
+    drawNameField(TEAM_COUNT, raceNameBox(), raceSetup.raceName, named);
 }
 
 void drawTeamSetup()
@@ -59,11 +70,10 @@ void drawTeamSetup()
     const Rect events = eventCardsBox();
     drawCheckBox(static_cast<int>(events.x), static_cast<int>(events.y),
                  static_cast<int>(layout.teamCheckSize), texts.enableEventCards, NO_ACCESS_KEY,
-                 CHOICES_OPEN, raceSetup.eventCardsOn);
+                 EVENT_CARDS_EXIST, raceSetup.eventCardsOn);
 
-    const bool open = gameState == STATE_TEAM_SETUP;
     const Rect back = cornerButton();
     const Rect ok = teamOkButton();
-    drawButton(back.x, back.y, back.w, back.h, open, texts.teamBack, NO_ACCESS_KEY);
-    drawButton(ok.x, ok.y, ok.w, ok.h, open, "OK", NO_ACCESS_KEY);
+    drawButton(back.x, back.y, back.w, back.h, choicesOpen(), texts.teamBack, NO_ACCESS_KEY);
+    drawButton(ok.x, ok.y, ok.w, ok.h, choicesOpen(), "OK", NO_ACCESS_KEY);
 }

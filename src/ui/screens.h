@@ -4,8 +4,13 @@
 
 void drawLoadingScreen();
 void drawMainMenu();
+void drawLanguages();
+void drawManual();
+void drawSettings();
 
 // Its controls are grey behind the dialog of STATE_SETUP_MESSAGE.
 void drawTeamSetup();
 
 void drawCourseSelection();
+void drawCourseDesigner();
+void drawSavedCourses();

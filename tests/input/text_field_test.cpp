@@ -70,5 +70,5 @@ TEST(TextFields, PutTheCursorWhereTheyAreClicked)
     EXPECT_EQ(name.cursor, 0);
     name.text = "twelve chars";
     cursorFromClick(name.field(), 100 + 97, 100, 97);
-    EXPECT_EQ(name.cursor, 0);
+    EXPECT_EQ(name.cursor, 11);
 }

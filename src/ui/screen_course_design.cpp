@@ -1,0 +1,89 @@
+#include "ui/screens.h"
+
+#include "board/course.h"
+#include "board/designer.h"
+#include "ui/access_keys.h"
+#include "ui/controls.h"
+#include "ui/course_table.h"
+#include "ui/layout.h"
+#include "ui/matrices.h"
+#include "ui/models.h"
+#include "ui/text.h"
+#include "ui/texts.h"
+#include "ui/widgets.h"
+
+#include <GL/gl.h>
+
+static constexpr float FRAME_INSET = 6.0f;
+static constexpr Colour FAILURE_RED = {0.6f, 0.0f, 0.0f};
+
+// The section in question where the board lies on the race screen.
+static void drawPreview()
+{
+    useBoardLayer();
+    glCallList(lists.sectionLists[previewedSection()]);
+    useScreenLayer();
+}
+
+static void drawNextSections()
+{
+    const NextSections next = nextSections();
+    for (int choice = 0; choice < next.designChoiceCount; ++choice) {
+        const Rect radio = sectionRadio(choice);
+        const float step = layout.sectionRadioStep;
+        const float y = layout.sectionRadioY + static_cast<float>(choice) * step;
+        drawRadioButton(static_cast<int>(layout.sectionRadioX), static_cast<int>(y),
+                        static_cast<int>(step * 0.5f), choice == courseScreens.designChoice, true);
+        setColour(WHITE);
+        drawText(layout.sectionRadioX + step * 0.75f, radio.y + radio.h * 0.5f, ALIGN_LEFT,
+                 sections[next.section[choice]].name);
+    }
+}
+
+static void drawMark(const Rect& box, const std::string& label, bool enabled, bool checked)
+{
+    drawCheckBox(static_cast<int>(box.x), static_cast<int>(box.y),
+                 static_cast<int>(layout.designCheckSize), label, NO_ACCESS_KEY, enabled, checked);
+}
+
+static void drawDesignButtons()
+{
+    const bool finished = designFinished();
+    const Rect add = addSectionButton();
+    const Rect save = saveCourseButton();
+    const Rect back = cornerButton();
+    drawControl(CONTROL_PREVIOUS_SECTION, prevSectionButton(), sectionUndoable());
+    if (finished)
+        drawButton(add.x, add.y, add.w, add.h, true, "OK", 0);
+    else
+        drawControl(CONTROL_ADD_SECTION, add, true);
+    drawButton(save.x, save.y, save.w, save.h, finished, texts.saveCourse, NO_ACCESS_KEY);
+    drawButton(back.x, back.y, back.w, back.h, true, texts.courseBack, NO_ACCESS_KEY);
+}
+
+// On a white slip, since dark red can't be read on the blue band.
+static void drawSaveFailure()
+{
+    const std::string message = "\"courses\"" + texts.couldNotOpen;
+    const float w = static_cast<float>(textWidth(message, FONT_BODY)) + 30.0f;
+    const Rect save = saveCourseButton();
+    const float x = save.x + save.w * 0.5f;
+    const float y = save.y + save.h * 1.7f;
+    setColour(WHITE);
+    fillRect(x - w * 0.5f, y - 9.0f, w, 18.0f);
+    setColour(FAILURE_RED);
+    drawText(x, y, ALIGN_CENTRE, message);
+}
+
+void drawCourseDesigner()
+{
+    drawPreview();
+    drawCourseTable(layout.designTitleX, layout.designTitleY, layout.designTitleStep,
+                    countCourseLaps(courseText, LAPS_DRIVEN), FRAME_INSET);
+    drawDesignButtons();
+    drawNextSections();
+    drawMark(sprintBox(), texts.sprint, sprintChoosable(), courseScreens.designSprintChecked);
+    drawMark(finishBox(), texts.finish, finishChoosable(), courseScreens.designFinishChecked);
+    if (courseScreens.saveFailed)
+        drawSaveFailure();
+}
