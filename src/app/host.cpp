@@ -23,3 +23,9 @@ void moveTimerFired()
 {
     tickPending = false;
 }
+
+void quitProgram()
+{
+    if (host.quit)
+        host.quit();
+}

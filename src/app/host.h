@@ -6,6 +6,7 @@
 struct Host {
     void (*redraw)() = nullptr;         // paint a whole frame of the present state, now
     void (*armTimer)(int ms) = nullptr; // call onMoveTimer(0) once after ms milliseconds
+    void (*quit)() = nullptr;           // end the program
 };
 
 extern Host host;
@@ -19,3 +20,6 @@ void armMoveTimer(int ms);
 
 // To be called first by whoever receives the tick: it is no longer pending.
 void moveTimerFired();
+
+// Ends the program at once; nothing is written on the way out.
+void quitProgram();

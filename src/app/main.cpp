@@ -53,7 +53,7 @@ static void registerCallbacks()
     glutKeyboardUpFunc(onKeyUp);
     glutSpecialUpFunc(onSpecialUp);
     glutCloseFunc(onClose);
-    host = {.redraw = drawFrame, .armTimer = armTimer};
+    host = {.redraw = drawFrame, .armTimer = armTimer, .quit = [] { std::exit(0); }};
 }
 
 int main(int argc, char** argv)

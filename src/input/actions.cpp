@@ -12,18 +12,12 @@
 #include "ui/team_setup.h"
 #include "ui/texts.h"
 
-#include <cstdlib>
 #include <utility>
 
 static void enter(GameState state)
 {
     gameState = state;
     redrawNow();
-}
-
-void exitProgram()
-{
-    std::exit(0);
 }
 
 void openTeamSetup()

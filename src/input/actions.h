@@ -3,7 +3,6 @@
 // What a control does outside the rules of the race. Mouse and keyboard call the same.
 
 // From the main menu.
-void exitProgram();
 void openTeamSetup();
 
 // "OK" on the team setup screen: goes on to the choice of a course, or tells what is missing.

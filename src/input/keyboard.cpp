@@ -79,7 +79,7 @@ constexpr LetterAction kindLetters[] =     {{CONTROL_BLUE, receiveBlueCard}, {CO
 constexpr LetterAction whenLetters[] =     {{CONTROL_IMMEDIATELY, useCardNow}, {CONTROL_LATER, keepCard}};
 constexpr LetterAction finalLetters[] =    {{CONTROL_QUIT, toMainMenu}};
 constexpr LetterAction menuLetters[] =     {{CONTROL_START, openTeamSetup}, {CONTROL_MANUAL, openManual}, {CONTROL_MENU_SETTINGS, openSettings},
-                                            {CONTROL_LANGUAGE, openLanguages}, {CONTROL_EXIT, exitProgram}};
+                                            {CONTROL_LANGUAGE, openLanguages}, {CONTROL_EXIT, quitProgram}};
 constexpr LetterAction courseLetters[] =   {{CONTROL_CREATE_COURSE, openCourseDesigner}, {CONTROL_SAVED_COURSE, openSavedCourses}, {CONTROL_COURSE_BACK, leaveCourseSelection}};
 constexpr LetterAction panelLetters[] =    {{CONTROL_QUIT, openQuitConfirm}, {CONTROL_RACE_SETTINGS, openSettings}};
 // clang-format on

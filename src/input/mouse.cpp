@@ -64,7 +64,7 @@ static void releaseInMainMenu(Point at)
     else if (at.in(menuLanguageButton()))
         openLanguages();
     else if (at.in(exitButton()))
-        exitProgram();
+        quitProgram();
 }
 
 static void releaseInCourseSelection(Point at)

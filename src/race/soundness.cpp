@@ -7,10 +7,16 @@ static std::string about(int rider, const char* fault)
     return "rider " + std::to_string(riderNumber(rider)) + ' ' + fault;
 }
 
-static bool holdsSquare(int rider)
+static bool onBoard(int rider)
 {
     const Rider& record = race.riders[rider];
-    return record.row != -1 && !record.offBoard && !record.finished && rider != race.currentRider;
+    return record.row != -1 && !record.offBoard && !record.finished;
+}
+
+// The rider on turn is off the grid while he moves, a follower while he thinks.
+static bool mayBeLifted(int rider)
+{
+    return rider == race.currentRider || rider == race.followerRider;
 }
 
 static std::string riderFault(int rider)
@@ -20,11 +26,11 @@ static std::string riderFault(int rider)
         return about(rider, "is not played by whom his team is");
     if (record.skipTurns < 0 || record.skipTurns > 2)
         return about(rider, "misses an impossible number of turns");
-    if (!holdsSquare(rider))
+    if (!onBoard(rider))
         return {};
     if (!isRealSquare(squareAt(record.row, record.lane)))
         return about(rider, "stands where no square is");
-    if (course.courseOccupant[record.row][record.lane] != rider)
+    if (course.courseOccupant[record.row][record.lane] != rider && !mayBeLifted(rider))
         return about(rider, "is not on the square where he stands");
     return {};
 }
@@ -36,7 +42,7 @@ static std::string gridFault()
             const int rider = course.courseOccupant[row][lane];
             if (rider == -1)
                 continue;
-            if (rider < 0 || rider >= RIDER_COUNT || !holdsSquare(rider))
+            if (rider < 0 || rider >= RIDER_COUNT || !onBoard(rider))
                 return "a square holds somebody who is not on the board";
             if (race.riders[rider].row != row || race.riders[rider].lane != lane)
                 return about(rider, "stands on two squares");

@@ -66,8 +66,8 @@ static void drawSideButtons()
     drawControl(CONTROL_SCORECARD, scorecardButton(), false);
     drawControl(CONTROL_POSITIONS, positionsButton(), false);
     drawControl(CONTROL_DOPING, dopingButton(), false);
-    drawControl(CONTROL_RACE_SETTINGS, settingsButton(), false);
 
+    drawControl(CONTROL_RACE_SETTINGS, settingsButton(), racePanelActive());
     drawControl(CONTROL_QUIT, quitButton(), racePanelActive());
 }
 

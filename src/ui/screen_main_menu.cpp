@@ -14,12 +14,11 @@ void drawMainMenu()
     setColour(WHITE);
     drawText(centre, bottom * 0.24f, ALIGN_CENTRE, texts.mainMenuTitle, FONT_TITLE);
 
-    // Grey: the screens behind these are yet to come.
-    drawControl(CONTROL_LANGUAGE, menuLanguageButton(), false);
-    drawControl(CONTROL_MANUAL, menuManualButton(), false);
-    drawControl(CONTROL_MENU_SETTINGS, menuSettingsButton(), false);
+    drawControl(CONTROL_LANGUAGE, menuLanguageButton(), true);
+    drawControl(CONTROL_MANUAL, menuManualButton(), true);
+    drawControl(CONTROL_MENU_SETTINGS, menuSettingsButton(), true);
+    // Grey: races that are kept in files are yet to come.
     drawControl(CONTROL_CONTINUE, menuContinueButton(), false);
-
     drawControl(CONTROL_START, menuStartButton(), true);
     drawControl(CONTROL_EXIT, exitButton(), true);
 

@@ -10,7 +10,8 @@ void installFakeHost()
     fakeHost = {};
     moveTimerFired();
     host = {.redraw = [] { ++fakeHost.redraws; },
-            .armTimer = [](int ms) { fakeHost.pendingMs = ms; }};
+            .armTimer = [](int ms) { fakeHost.pendingMs = ms; },
+            .quit = [] { ++fakeHost.quits; }};
 }
 
 bool runTick()

@@ -61,7 +61,7 @@ findControls()
             put("dialogOk", dialogX + dialogW * 0.5, dialogY + dialogH - buttonH * 0.7)
             put("yes", dialogX + dialogW * 0.4 - buttonW * 0.5, dialogY + dialogH - buttonH * 0.7)
             put("no", dialogX + dialogW * 0.6 + buttonW * 0.5, dialogY + dialogH - buttonH * 0.7)
-            put("sheetTitle", v * 0.5, cardY - v * 0.012)
+            put("sheetTitle", v * 0.5, cardY - 4)
             put("sheetOk", dialogX + dialogW * 0.85, cardY + sheetH - buttonH * 0.7)
             for (i = 0; i < 4; i++)
                 put("tab" i, panelX + (i + 0.1) * panelW * 0.25, hud + h * 0.176 + v * 0.017)
@@ -79,6 +79,7 @@ startGame()
     for picture in "$pictures"/*.dat; do
         ln -s "$picture" run/
     done
+    # shellcheck disable=SC2059  # the bytes are a format
     [ $# -lt 3 ] || printf "$3" > run/settings
     findControls
     trap endGame EXIT

@@ -27,22 +27,23 @@ click firstCourse
 until_ 10 "the race" throwOpen
 shot order
 
-seen=
+click toggle
+sleep 0.5
+shot perspective
+click toggle
+
+shots=0
 while ! sheetOpen; do
-    [ $SECONDS -lt 200 ] || fail "the race does not end"
+    [ $SECONDS -lt 240 ] || fail "the race does not end"
     kill -0 "$gamePid" || fail "the program ended in the race"
     if dialogOpen; then
-        [[ $seen = *dialog* ]] || shot dialog
-        seen+=dialog
+        shot dialog
         click dialogOk
     elif throwOpen; then
         click throw
-    elif [ -z "${toggled-}" ]; then
-        toggled=yes
-        shot flat
-        click toggle
-        sleep 0.3
-        shot perspective
+    elif [ $((SECONDS / 10)) -gt $shots ]; then
+        shots=$((SECONDS / 10))
+        shot "race$shots"
     fi
 done
 shot scorecard

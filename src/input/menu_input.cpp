@@ -1,0 +1,102 @@
+#include "input/menu_input.h"
+
+#include "app/game_state.h"
+#include "app/host.h"
+#include "app/overlays.h"
+#include "app/settings.h"
+#include "store/settings_file.h"
+#include "ui/controls.h"
+#include "ui/manual_pages.h"
+#include "ui/texts.h"
+
+#include <GL/freeglut.h>
+
+static constexpr unsigned char ENTER = 13;
+static constexpr unsigned char ESCAPE = 27;
+static constexpr unsigned char SPACE = 32;
+
+void openLanguages()
+{
+    gameState = STATE_LANGUAGE;
+    redrawNow();
+}
+
+void openManual()
+{
+    manualPage = 0;
+    gameState = STATE_MANUAL;
+    redrawNow();
+}
+
+static int languageUnder(int x, int y)
+{
+    for (int language = 0; language < LANGUAGE_COUNT; ++language)
+        if (languageBox(language).contains(x, y))
+            return language;
+    return -1;
+}
+
+void hoverLanguage(int x, int y)
+{
+    const int hovered = languageUnder(x, y);
+    if (hovered == settings.language)
+        return;
+    settings.language = hovered;
+    redrawNow();
+}
+
+// The file failing to be written is no reason to refuse the language for this run.
+void chooseLanguage()
+{
+    if (settings.language == -1)
+        return;
+    writeSettings();
+    loadTexts();
+    toMainMenu();
+}
+
+static void showPage(int page)
+{
+    if (page < 0 || page >= manualPageCount || page == manualPage)
+        return;
+    manualPage = page;
+    redrawNow();
+}
+
+void releaseInManual(int x, int y)
+{
+    if (manualOkButton().contains(x, y))
+        toMainMenu();
+    else if (prevPageButton().contains(x, y))
+        showPage(manualPage - 1);
+    else if (nextPageButton().contains(x, y))
+        showPage(manualPage + 1);
+}
+
+void keyInManual(unsigned char key)
+{
+    if (key == ENTER || key == SPACE)
+        showPage(manualPage + 1);
+    else if (key == ESCAPE || key == 'o' || key == 'O')
+        toMainMenu();
+}
+
+void specialInManual(int key)
+{
+    switch (key) {
+    case GLUT_KEY_LEFT:
+    case GLUT_KEY_UP:
+    case GLUT_KEY_PAGE_UP:
+        return showPage(manualPage - 1);
+    case GLUT_KEY_RIGHT:
+    case GLUT_KEY_DOWN:
+    case GLUT_KEY_PAGE_DOWN:
+        return showPage(manualPage + 1);
+    case GLUT_KEY_HOME:
+        return showPage(0);
+    case GLUT_KEY_END:
+        return showPage(manualPageCount - 1);
+    default:
+        return;
+    }
+}

@@ -1,0 +1,199 @@
+#include "input/settings_input.h"
+
+#include "app/host.h"
+#include "app/overlays.h"
+#include "app/settings.h"
+#include "input/text_field.h"
+#include "store/settings_file.h"
+#include "ui/controls.h"
+#include "ui/layout.h"
+#include "ui/reshape.h"
+#include "ui/settings_screen.h"
+
+#include <GL/freeglut.h>
+
+#include <cstdlib>
+
+static constexpr unsigned char BACKSPACE = 8;
+static constexpr unsigned char TAB = 9;
+static constexpr unsigned char ENTER = 13;
+static constexpr unsigned char DELETE = 127;
+
+struct RatioChoice {
+    double w, h;
+};
+
+constexpr Table<RatioChoice, 3> ratioChoices = {{{5.0, 4.0}, {4.0, 3.0}, {16.0, 10.0}}};
+
+static TextField activeField()
+{
+    return {settingsScreen.settingsFieldText[settingsScreen.settingsActiveField],
+            settingsScreen.settingsCursor, SETTINGS_DIGITS_MAX};
+}
+
+static void activate(int field)
+{
+    settingsScreen.settingsActiveField = field;
+    settingsScreen.settingsCursor = 0;
+}
+
+static void chooseMovement(int smooth)
+{
+    settings.smoothMovement = smooth;
+    activate(firstOpenSettingsField());
+}
+
+static bool ratioDiffers(double w, double h)
+{
+    return settings.ratioW != w || settings.ratioH != h;
+}
+
+static void chooseRatio(const RatioChoice& choice)
+{
+    if (!ratioDiffers(choice.w, choice.h))
+        return;
+    settings.ratioW = choice.w;
+    settings.ratioH = choice.h;
+    ratioChosenByProgram = false;
+    activate(firstOpenSettingsField());
+}
+
+// Of the settings themselves only the kind of movement changes at once. The ratio stays.
+static void takeDefaults()
+{
+    const Settings defaults;
+    settings.smoothMovement = defaults.smoothMovement;
+    fillSettingsFields(defaults);
+}
+
+// An empty field counts as 0.
+static int numberIn(int field)
+{
+    return std::atoi(settingsScreen.settingsFieldText[field].c_str());
+}
+
+// The file failing to be written is no reason to refuse the settings for this run.
+static void confirmSettings()
+{
+    settings.stepTime = numberIn(FIELD_STEP_TIME);
+    settings.stepDistance = static_cast<float>(numberIn(FIELD_STEP_DISTANCE));
+    settings.stepDelay = numberIn(FIELD_STEP_DELAY);
+    fillSettingsFields(settings);
+    ratioChosenByProgram = false;
+    writeSettings();
+    if (ratioDiffers(settingsBackup.ratioW, settingsBackup.ratioH))
+        layOutAnew();
+    closeOverlay();
+}
+
+// Another size of the window meanwhile has been laid out for the ratio that is given up here.
+static void cancelSettings()
+{
+    settings.smoothMovement = settingsBackup.smoothMovement;
+    if (!ratioChosenByProgram) {
+        settings.ratioW = settingsBackup.ratioW;
+        settings.ratioH = settingsBackup.ratioH;
+    }
+    fillSettingsFields(settings);
+    const int shownW = layout.viewW;
+    updateDrawingArea();
+    if (layout.viewW != shownW)
+        layOutAnew();
+    closeOverlay();
+}
+
+static bool releaseInFields(int x, int y)
+{
+    for (int field = 0; field < SETTINGS_FIELD_COUNT; ++field) {
+        const Rect box = settingsField(field);
+        if (!settingsFieldOpen(field) || !box.contains(x, y))
+            continue;
+        activate(field);
+        cursorFromClick(activeField(), x, static_cast<int>(box.x), static_cast<int>(box.w));
+        return true;
+    }
+    return false;
+}
+
+static bool releaseInRatios(int x, int y)
+{
+    for (int i = 0; i < ratioChoices.size(); ++i) {
+        if (!ratioRadio(i).contains(x, y))
+            continue;
+        chooseRatio(ratioChoices[i]);
+        return true;
+    }
+    return false;
+}
+
+void releaseInSettings(int x, int y)
+{
+    if (settingsOkButton().contains(x, y))
+        return confirmSettings();
+    if (settingsCancelButton().contains(x, y))
+        return cancelSettings();
+    if (defaultButton().contains(x, y))
+        takeDefaults();
+    else if (smoothRadio().contains(x, y))
+        chooseMovement(1);
+    else if (stepwiseRadio().contains(x, y))
+        chooseMovement(0);
+    else if (!releaseInRatios(x, y) && !releaseInFields(x, y))
+        return;
+    redrawNow();
+}
+
+// The open field a step further on, or back at the first behind the last.
+static int nextField()
+{
+    const int next = settingsScreen.settingsActiveField + 1;
+    return next < SETTINGS_FIELD_COUNT && settingsFieldOpen(next) ? next : firstOpenSettingsField();
+}
+
+void keyInSettings(unsigned char key)
+{
+    if (key == TAB || key == ENTER)
+        activate(nextField());
+    else if (key == BACKSPACE)
+        eraseBefore(activeField());
+    else if (key == DELETE)
+        eraseAt(activeField());
+    else if (key >= '0' && key <= '9')
+        typeCharacter(activeField(), static_cast<char>(key));
+    else
+        return;
+    redrawNow();
+}
+
+static void moveToField(int field)
+{
+    if (field >= 0 && field < SETTINGS_FIELD_COUNT && settingsFieldOpen(field))
+        activate(field);
+}
+
+void specialInSettings(int key)
+{
+    switch (key) {
+    case GLUT_KEY_LEFT:
+        moveTextCursor(activeField(), -1);
+        break;
+    case GLUT_KEY_RIGHT:
+        moveTextCursor(activeField(), 1);
+        break;
+    case GLUT_KEY_HOME:
+        cursorToStart(activeField());
+        break;
+    case GLUT_KEY_END:
+        cursorToEnd(activeField());
+        break;
+    case GLUT_KEY_UP:
+        moveToField(settingsScreen.settingsActiveField - 1);
+        break;
+    case GLUT_KEY_DOWN:
+        moveToField(settingsScreen.settingsActiveField + 1);
+        break;
+    default:
+        return;
+    }
+    redrawNow();
+}

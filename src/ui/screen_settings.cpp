@@ -1,0 +1,82 @@
+#include "ui/screens.h"
+
+#include "app/settings.h"
+#include "ui/controls.h"
+#include "ui/layout.h"
+#include "ui/settings_screen.h"
+#include "ui/text.h"
+#include "ui/texts.h"
+#include "ui/widgets.h"
+
+#include <string>
+
+static void drawFrameOf(const Rect& at, const std::string& title)
+{
+    setColour(WHITE);
+    drawGroupFrame(static_cast<int>(at.x), static_cast<int>(at.y), static_cast<int>(at.w),
+                   static_cast<int>(at.h), title);
+}
+
+static void drawChoice(float x, float y, const std::string& label, bool selected)
+{
+    drawRadioButton(static_cast<int>(x), static_cast<int>(y),
+                    static_cast<int>(layout.settingsRowH * 0.5f), selected, true);
+    setColour(WHITE);
+    drawText(x + layout.settingsRowH, y, ALIGN_LEFT, label);
+}
+
+// A number with its label before it and, if it has one, its unit behind it.
+static void drawField(int field, const std::string& label, const std::string& unit)
+{
+    const Rect box = settingsField(field);
+    const bool open = settingsFieldOpen(field);
+    const float y = box.y + box.h * 0.5f;
+    setColour(open ? WHITE : disabledGrey);
+    drawText(layout.movementRadioX + layout.settingsRowH * 1.5f, y, ALIGN_LEFT, label);
+    drawText(box.x + box.w * 1.1f, y, ALIGN_LEFT, unit);
+    drawTextBox(static_cast<int>(box.x), static_cast<int>(box.y), static_cast<int>(box.w),
+                static_cast<int>(box.h), settingsScreen.settingsFieldText[field],
+                field == settingsScreen.settingsActiveField, settingsScreen.settingsCursor, open);
+}
+
+static void drawPlainButton(const Rect& at, const std::string& label)
+{
+    drawButton(at.x, at.y, at.w, at.h, true, label, NO_ACCESS_KEY);
+}
+
+static void drawMovement()
+{
+    drawFrameOf(movementFrame(), texts.computerMovement);
+    drawChoice(layout.movementRadioX, layout.smoothRadioY, texts.smoothMovement,
+               settings.smoothMovement != 0);
+    drawField(FIELD_STEP_TIME, texts.delay, "ms");
+    drawField(FIELD_STEP_DISTANCE, texts.distance, "");
+    drawChoice(layout.movementRadioX, layout.stepwiseRadioY, texts.stepwiseMovement,
+               settings.smoothMovement == 0);
+    drawField(FIELD_STEP_DELAY, texts.timeBetweenSteps, "ms");
+    drawPlainButton(defaultButton(), texts.defaultValues);
+}
+
+static void drawRatioChoice(float y, const std::string& label, double width, double height)
+{
+    drawChoice(layout.ratioRadioX, y, label, settings.ratioW == width && settings.ratioH == height);
+}
+
+static void drawRatios()
+{
+    drawFrameOf(ratioFrame(), texts.screenRatio);
+    drawRatioChoice(layout.ratio54Y, texts.ratio54, 5.0, 4.0);
+    drawRatioChoice(layout.ratio43Y, texts.ratio43, 4.0, 3.0);
+    drawRatioChoice(layout.ratio1610Y, texts.ratio1610, 16.0, 10.0);
+}
+
+void drawSettings()
+{
+    setColour(WHITE);
+    drawText(static_cast<float>(layout.viewW) * 0.5f, layout.settingsTitleY, ALIGN_CENTRE,
+             texts.settings, FONT_TITLE);
+    drawMovement();
+    drawRatios();
+    drawPlainButton(settingsOkButton(), "OK");
+    drawPlainButton(settingsCancelButton(), texts.cancel);
+}

@@ -1,0 +1,277 @@
+#include "app/game_state.h"
+#include "app/host.h"
+#include "app/settings.h"
+#include "app/view.h"
+#include "board/course.h"
+#include "board/pictures.h"
+#include "input/keyboard.h"
+#include "input/mouse.h"
+#include "race/race_state.h"
+#include "race/soundness.h"
+#include "screen/support/gl_window.h"
+#include "support/fake_host.h"
+#include "ui/controls.h"
+#include "ui/frame.h"
+#include "ui/layout.h"
+
+#include <GL/freeglut.h>
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <random>
+#include <string>
+
+// Somebody who knows nothing of the game presses anything, anywhere. Nothing may break, whatever
+// comes of it. GRAVELON_MONKEY sets how many events there are, GRAVELON_SEED another beginning.
+
+namespace
+{
+
+constexpr int EVENTS = 20000;
+constexpr int EVENTS_A_FRAME = 40; // painting is slow without a graphics card
+
+long numberFrom(const char* variable, long otherwise)
+{
+    const char* text = std::getenv(variable);
+    return text ? std::atol(text) : otherwise;
+}
+
+class Monkey
+{
+public:
+    explicit Monkey(unsigned seed) : generator(seed) {}
+
+    int below(int count) { return std::uniform_int_distribution<int>(0, count - 1)(generator); }
+
+    void act()
+    {
+        if (below(3) == 0)
+            return doTheSensibleThing();
+        switch (below(12)) {
+        case 0:
+            return resizeOrWait();
+        case 1:
+        case 2:
+            return pressKey();
+        case 3:
+            return pressSpecialKey();
+        case 4:
+            return (below(2) ? onDrag : onHover)(anyX(), anyY());
+        case 5:
+            return clickAnywhere();
+        case 6:
+        case 7:
+            return letTimePass();
+        default:
+            return clickControl();
+        }
+    }
+
+private:
+    // Left to himself he would hardly ever come to a race, and quit it as soon as he had.
+    void doTheSensibleThing()
+    {
+        switch (gameState) {
+        case STATE_MAIN_MENU:
+            return clickOn(menuStartButton());
+        case STATE_TEAM_SETUP:
+            return nameTeams();
+        case STATE_COURSE_SELECT:
+            return clickOn(below(3) == 0 ? newCourseButton()
+                                         : coursePicture(below(FIXED_COURSE_COUNT)));
+        case STATE_COURSE_DESIGN:
+            return clickOn(addSectionButton());
+        case STATE_CONFIRM_QUIT:
+            return clickOn(dialogRightButton());
+        case STATE_ORDER_THROW:
+        case STATE_ORDER_RESULT:
+        case STATE_TURN:
+            return clickOn(throwButton());
+        case STATE_MOVE:
+            return onSpecialUp(GLUT_KEY_LEFT + below(3), 0, 0);
+        case STATE_PLACE_HUMAN:
+            return onKeyUp('\r', 0, 0);
+        default:
+            return letTimePass();
+        }
+    }
+
+    void nameTeams()
+    {
+        raceSetup.multiStage = false;
+        for (std::string& name : raceSetup.teamName)
+            if (name.empty())
+                name = "Somebody";
+        const int team = below(TEAM_COUNT);
+        if (!race.riders[team * RIDERS_PER_TEAM].isHuman)
+            clickOn(teamComputerBox(team));
+        clickOn(teamOkButton());
+    }
+
+    void clickOn(const Rect& at)
+    {
+        const int x = layout.viewX + static_cast<int>(at.x + at.w * 0.5f);
+        const int y = static_cast<int>(at.y + at.h * 0.5f);
+        onHover(x, y);
+        onMouse(GLUT_LEFT_BUTTON, GLUT_DOWN, x, y);
+        onMouse(GLUT_LEFT_BUTTON, GLUT_UP, x, y);
+    }
+
+    int anyX() { return below(layout.windowW + 40) - 20; }
+    int anyY() { return below(layout.windowH + 40) - 20; }
+
+    void letTimePass()
+    {
+        for (int ticks = below(60); ticks > 0 && runTick(); --ticks) {
+        }
+    }
+
+    void resizeOrWait()
+    {
+        constexpr int sizes[][2] = {{640, 512}, {640, 480}, {800, 500}, {500, 500}, {320, 200}};
+        if (below(40) != 0)
+            return letTimePass();
+        const auto& size = sizes[below(5)];
+        resizeScreen(size[0], size[1]);
+    }
+
+    void clickAt(int x, int y)
+    {
+        constexpr int buttons[] = {GLUT_LEFT_BUTTON,
+                                   GLUT_LEFT_BUTTON,
+                                   GLUT_LEFT_BUTTON,
+                                   GLUT_LEFT_BUTTON,
+                                   GLUT_RIGHT_BUTTON,
+                                   GLUT_MIDDLE_BUTTON,
+                                   3,
+                                   4};
+        const int button = buttons[below(8)];
+        onHover(x, y);
+        onMouse(button, GLUT_DOWN, x, y);
+        if (below(8) == 0)
+            onDrag(anyX(), anyY());
+        if (below(16) != 0)
+            onMouse(button, GLUT_UP, x, y);
+    }
+
+    void clickAnywhere() { clickAt(anyX(), anyY()); }
+
+    void clickControl()
+    {
+        const Rect controls[] = {
+            throwButton(),       throwButton(),         dialogOkButton(),  dialogLeftButton(),
+            dialogRightButton(), cornerButton(),        menuStartButton(), teamOkButton(),
+            coursePicture(0),    coursePicture(3),      newCourseButton(), savedCourseButton(),
+            addSectionButton(),  prevSectionButton(),   sprintBox(),       finishBox(),
+            sectionRadio(1),     saveCourseButton(),    savedOkButton(),   nextCourseButton(),
+            teamComputerBox(0),  teamComputerBox(2),    teamNameBox(1),    multiStageRadio(),
+            singleStageRadio(),  raceNameBox(),         cardPlace(0),      cardPlace(11),
+            dicePlace(0),        dicePlace(1),          breakawayBox(),    viewToggle(),
+            cameraButton(),      quitButton(),          settingsButton(),  menuSettingsButton(),
+            settingsOkButton(),  smoothRadio(),         stepwiseRadio(),   ratioRadio(1),
+            settingsField(0),    menuManualButton(),    nextPageButton(),  menuLanguageButton(),
+            languageBox(1),      languageBox(3),        teamTab(2),        scorecardOkButton(),
+            dialogTitleBar(),    settingsCancelButton()};
+        const Rect& at = controls[below(static_cast<int>(std::size(controls)))];
+        clickAt(layout.viewX + static_cast<int>(at.x + at.w * 0.5f),
+                static_cast<int>(at.y + at.h * 0.5f));
+    }
+
+    void hold()
+    {
+        static int held;
+        held = below(4) == 0 ? below(8) : 0;
+        heldModifiers = [] { return held; };
+    }
+
+    void pressKey()
+    {
+        constexpr unsigned char keys[] = "\r\r\r  \t\b\x7f\x1b"
+                                         "yntoqsdbaucpmelrjvwghzi0159-\xE9\xD0";
+        hold();
+        const unsigned char key = below(10) == 0
+                                      ? static_cast<unsigned char>(below(256))
+                                      : keys[below(static_cast<int>(std::size(keys)) - 1)];
+        onKeyDown(key, 0, 0);
+        onKeyUp(key, 0, 0);
+    }
+
+    void pressSpecialKey()
+    {
+        constexpr int keys[] = {GLUT_KEY_LEFT, GLUT_KEY_UP,      GLUT_KEY_UP,        GLUT_KEY_RIGHT,
+                                GLUT_KEY_DOWN, GLUT_KEY_PAGE_UP, GLUT_KEY_PAGE_DOWN, GLUT_KEY_HOME,
+                                GLUT_KEY_END,  GLUT_KEY_INSERT};
+        hold();
+        const int key = below(3) == 0 ? GLUT_KEY_F1 + below(12) : keys[below(10)];
+        for (int times = below(4); times >= 0; --times)
+            onSpecialUp(key, 0, 0);
+    }
+
+    std::mt19937 generator;
+};
+
+std::string fault()
+{
+    if (settings.stepTime < 0 || settings.stepTime > SETTINGS_NUMBER_MAX ||
+        settings.stepDelay < 0 || settings.stepDelay > SETTINGS_NUMBER_MAX)
+        return "a setting is out of its range";
+    for (const std::string& name : raceSetup.teamName)
+        if (name.size() > NAME_LENGTH_MAX)
+            return "a team's name is too long";
+    if (courseText.size() > 27)
+        return "the course is too long";
+    if (view.shownTeam < 0 || view.shownTeam >= TEAM_COUNT || view.cameraIndex < 1 ||
+        view.cameraIndex > 10)
+        return "the view shows what is not there";
+    return boardVisible() ? raceFault() : std::string{};
+}
+
+// Files that the monkey saves go into a folder that is thrown away.
+class Folder
+{
+public:
+    Folder()
+    {
+        const auto folder = std::filesystem::temp_directory_path() /
+                            ("gravelon-monkey-" + std::to_string(std::random_device{}()));
+        std::filesystem::create_directories(folder);
+        std::filesystem::current_path(folder);
+    }
+    ~Folder()
+    {
+        const auto folder = std::filesystem::current_path();
+        std::filesystem::current_path(before);
+        std::filesystem::remove_all(folder);
+    }
+
+private:
+    std::filesystem::path before = std::filesystem::current_path();
+};
+
+} // namespace
+
+TEST(Monkey, PressesAnythingAndNothingBreaks)
+{
+    const long seed = numberFrom("GRAVELON_SEED", 20261122);
+    const long events = numberFrom("GRAVELON_MONKEY", EVENTS);
+    SCOPED_TRACE("GRAVELON_SEED=" + std::to_string(seed));
+    const Folder folder;
+    startProgram(640, 512);
+    host.redraw = [] { ++fakeHost.redraws; };
+    std::srand(static_cast<unsigned>(seed));
+    Monkey monkey(static_cast<unsigned>(seed));
+    Table<bool, STATE_COUNT> seen{};
+    for (long event = 0; event < events; ++event) {
+        const GameState before = gameState;
+        monkey.act();
+        seen[gameState] = true;
+        ASSERT_EQ(fault(), "") << "event " << event << ", state " << before << " to " << gameState;
+        if (event % EVENTS_A_FRAME == 0)
+            drawFrame();
+    }
+    for (const GameState state :
+         {STATE_MAIN_MENU, STATE_TEAM_SETUP, STATE_COURSE_SELECT, STATE_COURSE_DESIGN, STATE_TURN,
+          STATE_MOVE, STATE_ANIMATE, STATE_PLACE_HUMAN, STATE_CONFIRM_QUIT, STATE_FOLLOW_PROMPT})
+        EXPECT_TRUE(seen[state]) << "never came to state " << state;
+}
