@@ -22,6 +22,8 @@
 
 #include <GL/freeglut.h>
 
+#include <cstdlib>
+
 // A place in the drawing area.
 struct Point {
     int x;
@@ -258,12 +260,55 @@ static void releaseLeft(Point at)
         releaseDialog(at);
 }
 
+static int millisecondsOfGlut()
+{
+    return glutGet(GLUT_ELAPSED_TIME);
+}
+
+int (*mouseClock)() = millisecondsOfGlut;
+
+// The second half of a double click often meets another control, which stands where the first half
+// was: "Exit" where "Back" had been. So it is dropped when the first half led to another state.
+struct DoubleClickGuard {
+    GameState pressedIn = STATE_LOADING;
+    Point changedAt = {-1, -1}; // where and when a click led to another state
+    int changedTime = 0;
+    bool dropped = false; // the click in hand does nothing
+};
+
+static DoubleClickGuard guard;
+
+static bool isSecondHalf(Point at)
+{
+    constexpr int intervalMs = 350;
+    constexpr int reach = 5; // pixels
+    return guard.changedAt.x != -1 && mouseClock() - guard.changedTime < intervalMs &&
+           std::abs(at.x - guard.changedAt.x) <= reach &&
+           std::abs(at.y - guard.changedAt.y) <= reach;
+}
+
+static void clickLeft(bool pressed, Point at)
+{
+    if (pressed) {
+        guard.dropped = isSecondHalf(at);
+        guard.pressedIn = gameState;
+        guard.changedAt = {-1, -1};
+    }
+    if (guard.dropped)
+        return;
+    pressed ? pressLeft(at) : releaseLeft(at);
+    if (!pressed && gameState != guard.pressedIn) {
+        guard.changedAt = at;
+        guard.changedTime = mouseClock();
+    }
+}
+
 void onMouse(int button, int buttonState, int x, int y)
 {
     const Point at = inDrawingArea(x, y);
     const bool pressed = buttonState == GLUT_DOWN;
     if (button == GLUT_LEFT_BUTTON)
-        pressed ? pressLeft(at) : releaseLeft(at);
+        clickLeft(pressed, at);
     else if (button == GLUT_RIGHT_BUTTON && pressed)
         pressCamera(GLUT_RIGHT_BUTTON, at);
 }

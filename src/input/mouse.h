@@ -8,3 +8,6 @@
 void onMouse(int button, int buttonState, int x, int y);
 void onDrag(int x, int y);
 void onHover(int x, int y);
+
+// Milliseconds that tell a double click from two. GLUT's, unless a test puts its own.
+extern int (*mouseClock)();

@@ -59,7 +59,7 @@ void unpickCard(int index)
         return;
     race.cardUsed[riderTeam(race.currentRider)][slot] = CARD_AVAILABLE;
     places[index] = -1;
-    if (race.playedCards[0] == -1 && race.playedCards[1] == -1)
+    if (gameState == STATE_TURN && race.playedCards[0] == -1 && race.playedCards[1] == -1)
         race.breakaway = 0;
     redrawNow();
 }

@@ -26,7 +26,7 @@ static void moveTo(BoardPoint at)
 void stepRider(char letter)
 {
     if (gameState != STATE_MOVE || race.stepsTaken >= race.moveBudget ||
-        race.stepsTaken + 1 >= PATH_MAX)
+        race.stepsTaken + 1 >= PATH_SQUARES_MAX)
         return;
     const Square landing = stepTarget(mover().row, mover().lane, letter, false);
     if (landing == NO_STEP)
@@ -56,6 +56,7 @@ static bool mayEndMove()
 // The followers come in behind the rider, or the next turn begins.
 static void leaveToFollowers(int moves)
 {
+    gameState = STATE_TRANSIT;
     if (race.breakaway || mover().offBoard) {
         redrawNow();
         nextTurn();

@@ -19,7 +19,7 @@ constexpr int CARD_SLOT_COUNT = SET_CARD_COUNT + WON_CARD_COUNT;
 constexpr int DOPING_CARD = 99; // in a slot of playedCards
 constexpr int BLUE_CARD = 6;
 constexpr int WHITE_CARD = 5;
-constexpr int PATH_MAX = 50;
+constexpr int PATH_SQUARES_MAX = 50;
 constexpr int RESULT_SLOT_COUNT = 25;
 constexpr int SPRINT_COUNT = 3;
 constexpr int SPRINT_PLACES = 3;
@@ -89,7 +89,7 @@ struct RaceState {
     float moveStartLane = 0.0f;
     float moveEndRow = 0.0f;
     float moveEndLane = 0.0f;
-    Table<PathSquare, PATH_MAX> pathSquares{};
+    Table<PathSquare, PATH_SQUARES_MAX> pathSquares{};
     Table<int, RIDER_COUNT> followerPlan{}; // reach of the square each would follow to
 
     // The race.

@@ -6,7 +6,6 @@
 
 #include <GL/gl.h>
 
-
 constexpr float FIXED_ADVANCE = 8.0f;  // of a character in FONT_FIXED
 constexpr float UNDERLINE_DROP = 5.0f; // from the middle of a label to its underline
 

@@ -35,12 +35,13 @@ std::vector<Square> laneFrom(int row, int lane)
     return squares;
 }
 
-// Lets the timer carry rider 0 over these squares and calls visit after each tick.
+// Lets the timer carry rider 0 over these squares and calls visit after each tick, with true for
+// one that only sets out.
 template <typename Visit> void carry(const std::vector<Square>& squares, Visit visit)
 {
-    for (std::size_t first = 0; first + 1 < squares.size(); first += PATH_MAX - 2) {
-        race.moveBudget =
-            static_cast<int>(std::min<std::size_t>(squares.size() - 1 - first, PATH_MAX - 2));
+    for (std::size_t first = 0; first + 1 < squares.size(); first += PATH_SQUARES_MAX - 2) {
+        race.moveBudget = static_cast<int>(
+            std::min<std::size_t>(squares.size() - 1 - first, PATH_SQUARES_MAX - 2));
         for (int i = 0; i <= race.moveBudget; ++i) {
             const Square& square = squares[first + static_cast<std::size_t>(i)];
             race.pathSquares[i] = {static_cast<float>(square.row), static_cast<float>(square.lane)};
@@ -49,10 +50,12 @@ template <typename Visit> void carry(const std::vector<Square>& squares, Visit v
         race.stepsTaken = 0;
         restMotion();
         gameState = STATE_ANIMATE;
+        onMoveTimer(0);
+        visit(true);
         for (onMoveTimer(0); race.stepsTaken < race.moveBudget ||
                              motion.way.back().distance > motion.wayDone + 1.5f * TICK;
              onMoveTimer(0))
-            visit();
+            visit(false);
     }
 }
 
@@ -114,13 +117,12 @@ TEST(Animation, CarriesRidersEvenlyAlongEveryLane)
                 race.riders[0].finished = 0;
                 BoardPoint last = boardPointOfSquare(squares[0].row, squares[0].lane, 0);
                 double heading = race.riders[0].heading;
-                bool first = true;
-                carry(squares, [&] {
+                carry(squares, [&](bool setsOut) {
                     const Rider& rider = race.riders[0];
                     const BoardPoint now = {rider.x, rider.y};
                     const double turn =
                         std::remainder(rider.heading - heading, 2 * std::numbers::pi);
-                    if (!first) {
+                    if (!setsOut) {
                         EXPECT_GT(distance(last, now), TICK * 2 / 3)
                             << text << " lane " << lane << " row " << rider.row;
                         EXPECT_LT(distance(last, now), TICK * 4 / 3)
@@ -128,7 +130,6 @@ TEST(Animation, CarriesRidersEvenlyAlongEveryLane)
                         EXPECT_LT(std::abs(turn), 0.7)
                             << text << " lane " << lane << " row " << rider.row;
                     }
-                    first = false;
                     last = now;
                     heading = rider.heading;
                 });

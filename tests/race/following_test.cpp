@@ -4,8 +4,6 @@
 #include "app/view.h"
 #include "board/course.h"
 #include "race/movement.h"
-#include "race/turn_cycle.h"
-#include "support/fake_host.h"
 #include "support/races.h"
 
 #include <gtest/gtest.h>
@@ -16,6 +14,7 @@ namespace
 constexpr std::string_view ONE_LAP = "01S23S4S5F12";
 constexpr std::string_view TWO_LAPS = "01234512345F12";
 constexpr bool MOVED = true;
+constexpr int WORTH = 50;
 
 // A person's rider moves and stops, with these moves to spare.
 void lead(int rider, std::string_view letters, int unused = 0)
@@ -31,6 +30,20 @@ bool asked(int rider)
     return gameState == STATE_FOLLOW_PROMPT && race.followerRider == rider;
 }
 
+// Rider 4 becomes a computer's, to whom every square is worth the same.
+void letComputerJudge()
+{
+    race.riders[4].isHuman = 0;
+    course.reach12 = gridOf(WORTH);
+    course.reach11 = gridOf(WORTH - 1);
+}
+
+void makeRowWorth(int row, int worth)
+{
+    for (int& reach : course.reach12[row])
+        reach = worth;
+}
+
 } // namespace
 
 TEST(Following, TheWholeLineComesAlongInTheLeadersLane)
@@ -40,17 +53,15 @@ TEST(Following, TheWholeLineComesAlongInTheLeadersLane)
     lead(0, "MMRM");
     ASSERT_TRUE(asked(4));
     EXPECT_EQ(view.shownTeam, 1);
-    EXPECT_EQ(occupant(108, 6), 0);
     followYes();
     ASSERT_TRUE(asked(9));
     EXPECT_EQ(race.currentRider, 0); // the question names the leader
-    EXPECT_EQ(squareOfRider(4), (Square{107, 6}));
-    EXPECT_EQ(race.riders[4].hasMoved, 1);
     followYes();
     ASSERT_TRUE(asked(12));
     followYes();
-    EXPECT_EQ(occupant(107, 6), 4);
-    EXPECT_EQ(occupant(106, 6), 9);
+    EXPECT_EQ(squareOfRider(0), (Square{108, 6}));
+    EXPECT_EQ(squareOfRider(4), (Square{107, 6}));
+    EXPECT_EQ(squareOfRider(9), (Square{106, 6}));
     EXPECT_EQ(occupant(105, 6), 12);
     EXPECT_EQ(occupant(103, 5), -1);
     EXPECT_EQ(race.roundNumber, 3); // all four have had their turn
@@ -67,33 +78,26 @@ TEST(Following, BehindTheEndTooRowsWithoutASquareAreSkipped)
 
 TEST(Following, ANoEndsTheChain)
 {
-    setUpPersonsRace(ONE_LAP, {{0, 104, 5}, {4, 103, 5}, {9, 102, 5}});
+    setUpPersonsRace(ONE_LAP, {{0, 104, 5}, {4, 103, 5}, {9, 102, 5}, {12, 103, 7}});
     lead(0, "MMM");
     followNo();
     EXPECT_EQ(gameState, STATE_TURN);
-    EXPECT_EQ(race.currentRider, 4); // he has his own turn
-    EXPECT_EQ(squareOfRider(4), (Square{103, 5}));
-    EXPECT_EQ(squareOfRider(9), (Square{102, 5}));
+    EXPECT_EQ(race.currentRider, 12);
+    EXPECT_EQ(occupant(103, 5), 4);
+    EXPECT_EQ(race.riders[4].hasMoved, 0);
     followYes(); // no question stands any more
-    EXPECT_EQ(gameState, STATE_TURN);
-    beginPersonsTurn(9);
-    EXPECT_EQ(occupant(107, 5), 0);
+    EXPECT_EQ(occupant(103, 5), 4);
 }
 
-TEST(Following, OnlyFromTheSquareDirectlyBehind)
+TEST(Following, OnlyWhoStandsDirectlyBehindAndHasNotMoved)
 {
     setUpPersonsRace(ONE_LAP, {{0, 104, 5}, {4, 102, 5}, {9, 103, 6}});
     lead(0, "MMM");
     EXPECT_EQ(gameState, STATE_TURN);
-    EXPECT_EQ(race.currentRider, 9);
-}
 
-TEST(Following, OnlyWhoHasNotMoved)
-{
     setUpPersonsRace(ONE_LAP, {{0, 104, 5}, {4, 103, 5, MOVED}, {9, 102, 5}});
     lead(0, "MMM");
-    EXPECT_EQ(race.currentRider, 9);
-    EXPECT_EQ(occupant(103, 5), 4);
+    EXPECT_EQ(gameState, STATE_TURN);
 }
 
 TEST(Following, OnlyFromTheTerrainOfTheSquareInFront)
@@ -101,7 +105,6 @@ TEST(Following, OnlyFromTheTerrainOfTheSquareInFront)
     setUpPersonsRace(ONE_LAP, {{0, 20, 4}, {4, 19, 4}}); // a climb begins on row 20
     lead(0, "MM");
     EXPECT_EQ(gameState, STATE_TURN);
-    EXPECT_EQ(race.currentRider, 4);
 
     setUpPersonsRace(ONE_LAP, {{0, 19, 4}, {4, 18, 4}}); // where the leader goes doesn't matter
     lead(0, "MMM");
@@ -110,11 +113,10 @@ TEST(Following, OnlyFromTheTerrainOfTheSquareInFront)
 
 TEST(Following, ATakenSquareEndsTheChain)
 {
-    setUpPersonsRace(ONE_LAP, {{0, 104, 5}, {4, 103, 5}, {9, 107, 6, MOVED}});
+    setUpPersonsRace(ONE_LAP, {{0, 104, 5}, {4, 103, 5}, {9, 107, 6, MOVED}, {12, 103, 7}});
     lead(0, "MMMR");
     EXPECT_EQ(gameState, STATE_TURN);
-    EXPECT_EQ(race.currentRider, 4);
-    EXPECT_EQ(squareOfRider(4), (Square{103, 5}));
+    EXPECT_EQ(occupant(103, 5), 4);
 }
 
 TEST(Following, TheWayMayCostTheMovesThatTheLeaderMade)
@@ -123,27 +125,20 @@ TEST(Following, TheWayMayCostTheMovesThatTheLeaderMade)
     setUpPersonsRace(ONE_LAP, {{0, 10, 3}, {4, 8, 3}});
     lead(0, "MR", 7);
     EXPECT_EQ(gameState, STATE_TURN);
-    EXPECT_EQ(squareOfRider(0), (Square{14, 4}));
 
     setUpPersonsRace(ONE_LAP, {{0, 13, 3}, {4, 10, 3}, {9, 8, 3}});
     lead(0, "MR", 7);
     ASSERT_TRUE(asked(4));
-    followYes(); // from here on the chain has all the leader's moves
+    followYes(); // behind a person's yes the chain has all the leader's moves
     ASSERT_TRUE(asked(9));
     followYes();
     EXPECT_EQ(squareOfRider(9), (Square{13, 4}));
-}
 
-TEST(Following, BehindAComputerFollowerTheMovesStayThoseMade)
-{
     setUpPersonsRace(ONE_LAP, {{0, 13, 3}, {4, 10, 3}, {9, 8, 3}});
-    race.riders[4].isHuman = 0;
-    course.reach12 = gridOf(50);
-    course.reach11 = gridOf(49);
+    letComputerJudge();
     lead(0, "MR", 7);
     EXPECT_EQ(squareOfRider(4), (Square{14, 4}));
-    EXPECT_EQ(race.currentRider, 9);
-    EXPECT_EQ(gameState, STATE_TURN);
+    EXPECT_EQ(gameState, STATE_TURN); // behind a computer rider's it hasn't
 }
 
 TEST(Following, ARiderALapAheadFollowsOnHisOwnLap)
@@ -157,9 +152,7 @@ TEST(Following, ARiderALapAheadFollowsOnHisOwnLap)
     ASSERT_TRUE(asked(9)); // the line goes on a lap behind
     followYes();
     EXPECT_EQ(squareOfRider(9), (Square{105, 5}));
-    EXPECT_EQ(course.riderLapCount[9], 1);
     EXPECT_EQ(occupant(106, 5), -1);
-    EXPECT_EQ(race.currentRider, 12);
 }
 
 TEST(Following, NobodyStandsBehindTheFirstRowButOnALaterLap)
@@ -179,78 +172,50 @@ TEST(Following, FollowersCrossTheFinishBehindTheLeader)
     followYes();
     ASSERT_TRUE(asked(9));
     followYes(); // he comes to stand on the line
-    EXPECT_EQ(race.resultSlots[FINISH_SLOT], 0);
     EXPECT_EQ(race.resultSlots[FINISH_SLOT + 1], 4);
     EXPECT_EQ(race.resultSlots[FINISH_SLOT + 2], -1);
     EXPECT_EQ(race.sprintWinner, 0);
     EXPECT_TRUE(race.riders[0].finished && race.riders[4].finished);
-    EXPECT_EQ(squareOfRider(9), (Square{114, 5}));
     EXPECT_FALSE(race.riders[9].finished);
+}
+
+TEST(ComputerFollower, ComesToASquareAsGoodAsHisOwnTurnPromises)
+{
+    setUpPersonsRace(ONE_LAP, {{0, 104, 5}, {4, 103, 5}, {9, 102, 5}});
+    letComputerJudge();
+    lead(0, "MMM");
+    EXPECT_EQ(squareOfRider(4), (Square{106, 5}));
+    EXPECT_TRUE(asked(9));
+
+    setUpPersonsRace(ONE_LAP, {{0, 104, 5}, {4, 103, 5}, {9, 102, 5}, {12, 103, 7}});
+    letComputerJudge();
+    course.reach12[106][5] = WORTH - 1;
+    lead(0, "MMM");
+    EXPECT_EQ(occupant(103, 5), 4);
+    EXPECT_EQ(occupant(102, 5), 9); // the chain has ended
     EXPECT_EQ(race.currentRider, 12);
 }
 
-// Behind a person who goes ahead by three stands a computer rider; every square is worth 50 but the
-// one he would come to.
-static void leadComputer(int worthOfTarget)
+TEST(ComputerFollower, TakesHisOwnTurnForASevenOnHisSquare)
 {
-    setUpPersonsRace(ONE_LAP, {{0, 104, 5}, {4, 103, 5}, {9, 102, 5}, {12, 102, 7}});
-    race.riders[4].isHuman = 0;
-    course.reach12 = gridOf(50);
-    course.reach11 = gridOf(49);
-    course.reach12[106][5] = worthOfTarget;
-    lead(0, "MMM");
-}
-
-TEST(ComputerFollower, FollowsToASquareAsGoodAsHisOwnTurnPromises)
-{
-    leadComputer(50);
-    EXPECT_EQ(squareOfRider(4), (Square{106, 5}));
-    EXPECT_TRUE(asked(9));
-}
-
-TEST(ComputerFollower, DeclinesForABetterTurnAndEndsTheChain)
-{
-    leadComputer(49);
-    EXPECT_EQ(squareOfRider(4), (Square{103, 5}));
-    EXPECT_EQ(squareOfRider(9), (Square{102, 5}));
-    EXPECT_EQ(race.currentRider, 4);
-    EXPECT_EQ(gameState, STATE_ANIMATE); // his own turn
-}
-
-TEST(ComputerFollower, HisOwnTurnIsTakenForASeven)
-{
-    for (const int rowsAhead : {7, 8}) {
+    for (const int ahead : {7, 8}) {
         setUpPersonsRace(ONE_LAP, {{0, 104, 5}, {4, 103, 5}, {12, 102, 7}});
-        race.riders[4].isHuman = 0;
-        course.reach12 = gridOf(50);
-        course.reach11 = gridOf(49);
-        for (int lane = 0; lane < COURSE_LANES; ++lane)
-            course.reach12[103 + rowsAhead][lane] = 60;
+        letComputerJudge();
+        makeRowWorth(103 + ahead, WORTH + 10);
         lead(0, "MMM");
-        EXPECT_EQ(race.riders[4].hasMoved, rowsAhead == 8) << rowsAhead; // out of a seven's reach
+        EXPECT_EQ(race.riders[4].hasMoved, ahead == 8) << ahead; // out of a seven's reach
     }
-}
-
-TEST(ComputerFollower, HisSquareAddsToThatSeven)
-{
-    setUpPersonsRace(ONE_LAP, {{0, 66, 6}, {4, 65, 5}, {12, 61, 7}});
-    race.riders[0] = {.row = 48, .lane = 3, .isHuman = 1}; // on a descent, 4 in front and behind
-    race.riders[4] = {.row = 47, .lane = 3, .isHuman = 0};
-    course.courseOccupant = gridOf(-1);
-    course.courseOccupant[47][3] = 4;
-    course.reach12 = gridOf(50);
-    course.reach11 = gridOf(49);
-    for (int lane = 0; lane < COURSE_LANES; ++lane)
-        course.reach12[58][lane] = 60; // 11 squares ahead
+    setUpPersonsRace(ONE_LAP, {{0, 48, 3}, {4, 47, 3}, {12, 20, 4}}); // a descent adds 4
+    letComputerJudge();
+    makeRowWorth(47 + 11, WORTH + 10);
     lead(0, "MM");
-    EXPECT_EQ(squareOfRider(4), (Square{47, 3}));
+    EXPECT_EQ(race.riders[4].hasMoved, 0);
 }
 
-TEST(ComputerFollower, AlwaysFollowsAcrossTheFinish)
+TEST(ComputerFollower, AlwaysComesAlongAcrossTheFinish)
 {
     setUpPersonsRace(ONE_LAP, {{0, 113, 5}, {4, 112, 5}, {12, 60, 4}});
-    race.riders[4].isHuman = 0;
-    course.reach12 = gridOf(50);
+    letComputerJudge();
     course.reach12[115][5] = 1;
     lead(0, "MMM");
     EXPECT_EQ(race.resultSlots[FINISH_SLOT + 1], 4);

@@ -135,6 +135,7 @@ TEST(HandIn, AsManyCardsAsTurnsButOneOnCobbles)
 TEST(HandIn, OneCardForFourMoves)
 {
     drawLostTurns(FLAT, 0);
+    race.eventRider = -1;
     gameState = STATE_EVENT_HANDIN;
     confirmHandIn();
     EXPECT_EQ(gameState, STATE_EVENT_HANDIN); // not without a card

@@ -11,15 +11,14 @@
 namespace
 {
 
-constexpr std::string_view FROM_START_1 = "01S23S4S5F12";
-constexpr std::string_view FROM_START_2 = "64S5F12";
+constexpr std::string_view ONE_LAP = "01S23S4S5F12";
 
 using Teams = std::vector<int>;
 
 // A race of persons that waits for the throw of the first team.
 void waitForOrderThrow()
 {
-    startSeededRace(FROM_START_1, 1);
+    startSeededRace(ONE_LAP, 1);
     for (int team = 0; team < TEAM_COUNT; ++team)
         makeHuman(team);
     race.teamThrow = filled<int, TEAM_COUNT>(-1);
@@ -41,9 +40,9 @@ Teams teamsAskedFor(std::initializer_list<int> sums)
 }
 
 // The team has won the throw.
-void waitForPlacing(std::string_view text, int team, bool persons)
+void waitForPlacing(int team, bool persons)
 {
-    startSeededRace(text, 1);
+    startSeededRace(ONE_LAP, 1);
     for (Rider& rider : race.riders)
         rider.isHuman = persons;
     race.teamThrow = {2, 2, 2, 2};
@@ -96,23 +95,9 @@ TEST(OrderThrow, OnlyTheTiedThrowAgain)
     EXPECT_EQ(gameState, STATE_PLACE_HUMAN);
 }
 
-TEST(OrderThrow, ComputerTeamsThrowAtOnceAndWaitForNext)
-{
-    waitForOrderThrow();
-    for (int rider = 4; rider < 8; ++rider)
-        race.riders[rider].isHuman = 0;
-    throwForOrder();
-    afterOrderThrow();
-    EXPECT_EQ(gameState, STATE_ORDER_RESULT);
-    EXPECT_NE(race.teamThrow[1], -1);
-    afterOrderThrow();
-    EXPECT_EQ(gameState, STATE_ORDER_THROW); // a person again
-    EXPECT_EQ(race.currentRider, 8);
-}
-
 TEST(Placing, TheTeamThatWonLeadsEachCycle)
 {
-    waitForPlacing(FROM_START_1, 2, true);
+    waitForPlacing(2, true);
     std::vector<int> placed;
     while (gameState == STATE_PLACE_HUMAN && placed.size() < RIDER_COUNT) {
         placed.push_back(race.currentRider);
@@ -125,7 +110,7 @@ TEST(Placing, TheTeamThatWonLeadsEachCycle)
 
 TEST(Placing, OneOfATeamInALane)
 {
-    waitForPlacing(FROM_START_1, 0, true);
+    waitForPlacing(0, true);
     placeOn(START_ROWS, 2); // behind the start rows
     placeOn(0, 5);          // beside the road
     EXPECT_EQ(race.currentRider, 0);
@@ -146,7 +131,7 @@ TEST(Placing, OneOfATeamInALane)
 
 TEST(Placing, ComputerFillsTheThirdRowFromTheRight)
 {
-    waitForPlacing(FROM_START_1, 0, false);
+    waitForPlacing(0, false);
     // clang-format off
     // lane             0   1   2   3   4
     constexpr int GRID[START_ROWS][5] = {
@@ -160,15 +145,4 @@ TEST(Placing, ComputerFillsTheThirdRowFromTheRight)
         for (int lane = 0; lane < 5; ++lane)
             EXPECT_EQ(occupant(row, lane), GRID[row][lane]) << row << ", " << lane;
     EXPECT_EQ(race.currentRider, 5);
-}
-
-TEST(Placing, OnStart2EachTeamHasARiderInEachLane)
-{
-    waitForPlacing(FROM_START_2, 3, false);
-    for (int team = 0; team < TEAM_COUNT; ++team) {
-        int lanes = 0;
-        for (int place = 0; place < RIDERS_PER_TEAM; ++place)
-            lanes |= 1 << race.riders[team * RIDERS_PER_TEAM + place].lane;
-        EXPECT_EQ(lanes, 0xf0) << "team " << team;
-    }
 }

@@ -17,15 +17,22 @@ constexpr std::string_view ONE_SPRINT = "64S5F12";         // row 43; finish row
 using Slots = Table<int, RESULT_SLOT_COUNT>;
 using Sums = Table<int, TEAM_COUNT>;
 
-Slots noPlaces()
-{
-    return filled<int, RESULT_SLOT_COUNT>(-1);
-}
-
-// How many places are given away.
 std::ptrdiff_t placesTaken()
 {
     return RESULT_SLOT_COUNT - std::ranges::count(race.resultSlots, -1);
+}
+
+struct Place {
+    int slot;
+    int rider;
+};
+
+Slots places(std::initializer_list<Place> given)
+{
+    Slots slots = filled<int, RESULT_SLOT_COUNT>(-1);
+    for (const Place& place : given)
+        slots[place.slot] = place.rider;
+    return slots;
 }
 
 } // namespace
@@ -46,11 +53,7 @@ TEST(Crossing, OneMoveMayCrossSeveralLines)
     setUpRace(THREE_SPRINTS, {});
     recordCrossing(97, 99, 3);
     recordCrossing(60, 115, 7);
-    EXPECT_EQ(race.resultSlots[3], 7);
-    EXPECT_EQ(race.resultSlots[6], 3);
-    EXPECT_EQ(race.resultSlots[7], 7);
-    EXPECT_EQ(race.resultSlots[FINISH_SLOT], 7);
-    EXPECT_EQ(placesTaken(), 4);
+    EXPECT_EQ(race.resultSlots, places({{3, 7}, {6, 3}, {7, 7}, {FINISH_SLOT, 7}}));
 }
 
 TEST(Crossing, ASprintHasThreePlacesTheFinishSixteen)
@@ -58,13 +61,10 @@ TEST(Crossing, ASprintHasThreePlacesTheFinishSixteen)
     setUpRace(THREE_SPRINTS, {});
     for (const int rider : {4, 9, 2, 8})
         recordCrossing(97, 98, rider);
-    EXPECT_EQ(race.resultSlots[6], 4);
-    EXPECT_EQ(race.resultSlots[8], 2);
-    EXPECT_EQ(placesTaken(), 3); // nothing for the fourth, nor a place of the next line
+    EXPECT_EQ(race.resultSlots, places({{6, 4}, {7, 9}, {8, 2}})); // nothing for the fourth
     EXPECT_EQ(race.sprintWinner, 4);
     for (int rider = RIDER_COUNT - 1; rider >= 0; --rider)
         recordCrossing(110, 120, rider);
-    EXPECT_EQ(race.resultSlots[FINISH_SLOT], 15);
     EXPECT_EQ(race.resultSlots[RESULT_SLOT_COUNT - 1], 0);
     EXPECT_EQ(race.sprintWinner, 15);
 }
@@ -73,29 +73,24 @@ TEST(Crossing, SprintsThatTheCourseLacksAreNotCrossed)
 {
     setUpRace(ONE_SPRINT, {});
     recordCrossing(0, 61, 6);
-    EXPECT_EQ(race.resultSlots[0], 6);
-    EXPECT_EQ(race.resultSlots[FINISH_SLOT], 6);
-    EXPECT_EQ(placesTaken(), 2);
+    EXPECT_EQ(race.resultSlots, places({{0, 6}, {FINISH_SLOT, 6}}));
 }
 
-TEST(StagePoints, SprintsCountForThoseWhoFinish)
+TEST(Points, SprintsCountForThoseWhoFinish)
 {
-    Slots slots = noPlaces();
-    slots[0] = 1;      // 10
-    slots[4] = 1;      // 5
-    slots[8] = 9;      // 3
-    slots[6] = 2;      // 10, but he doesn't finish
-    slots[FINISH_SLOT + 1] = 1;  // 40
-    slots[FINISH_SLOT + 15] = 9; // 8
-    slots[FINISH_SLOT + 4] = 3;  // 30
+    const Slots slots = places({{0, 1},
+                                {4, 1},
+                                {6, 2},
+                                {8, 9},                  // 10, 5, 10 and 3
+                                {FINISH_SLOT + 1, 1},    // 40
+                                {FINISH_SLOT + 4, 3},    // 30
+                                {FINISH_SLOT + 15, 9}}); // 8
     const StagePoints ended = stagePoints(slots, false);
-    EXPECT_EQ(ended.sprint[1], 15);
-    EXPECT_EQ(ended.sprint[2], 0);
     EXPECT_EQ(ended.total[1], 55);
     EXPECT_EQ(ended.total[9], 11);
     EXPECT_EQ(ended.place[9], 15);
+    EXPECT_EQ(ended.sprint[2], 0);
     EXPECT_EQ(ended.total[2], -1);
-    EXPECT_EQ(ended.place[2], -1);
     EXPECT_EQ(ended.team, (Sums{85, 0, 11, 0}));
 
     const StagePoints running = stagePoints(slots, true);
@@ -104,51 +99,23 @@ TEST(StagePoints, SprintsCountForThoseWhoFinish)
     EXPECT_EQ(running.team, (Sums{85, 0, 11, 0}));
 }
 
-TEST(StagePoints, NobodyMovesUpForARiderWhoIsTakenOut)
-{
-    Slots slots = noPlaces();
-    slots[FINISH_SLOT] = slots[1] = -1; // the winner's places are lost
-    slots[0] = slots[FINISH_SLOT + 1] = 4;
-    slots[2] = slots[FINISH_SLOT + 2] = 8;
-    const StagePoints points = stagePoints(slots, false);
-    EXPECT_EQ(points.total[4], 10 + 40);
-    EXPECT_EQ(points.total[8], 3 + 35);
-}
-
-TEST(GeneralPoints, AreTheSumsOfTheStagesEnded)
+TEST(Points, OfTheRaceAreThoseOfTheStagesEnded)
 {
     setUpRace(ONE_SPRINT, {});
-    Slots first = noPlaces();
-    first[FINISH_SLOT] = 0;
-    first[0] = 5;
-    Slots second = noPlaces();
-    second[FINISH_SLOT] = 5;
-    second[0] = 5;
-    second[FINISH_SLOT + 1] = 0;
-    raceSetup.raceStages = {{"64S5F12", first}, {"64S5F12", second}};
-    race.resultSlots[FINISH_SLOT] = 12; // the stage in progress
+    raceSetup.raceStages = {
+        {"64S5F12", places({{0, 5}, {FINISH_SLOT, 0}})}, // rider 5 didn't finish: no sprint either
+        {"64S5F12", places({{0, 5}, {FINISH_SLOT, 5}, {FINISH_SLOT + 1, 0}})}};
+    race.resultSlots = places({{FINISH_SLOT, 12}});
     const GeneralPoints sums = generalPoints();
     EXPECT_EQ(sums.rider[0], 50 + 40);
-    EXPECT_EQ(sums.rider[5], 60); // the sprint of the stage that he didn't finish is lost
-    EXPECT_EQ(sums.rider[12], 0);
+    EXPECT_EQ(sums.rider[5], 60);
     EXPECT_EQ(sums.team, (Sums{90, 60, 0, 0}));
 }
 
-TEST(TeamOrder, OnEqualSumsTheLowerIndexStandsHigher)
+TEST(Points, OnEqualSumsTheLowerTeamStandsHigher)
 {
     EXPECT_EQ(teamOrder({30, 50, 30, 50}), (Sums{1, 3, 0, 2}));
     EXPECT_EQ(teamOrder({0, 0, 0, 0}), (Sums{0, 1, 2, 3}));
-    EXPECT_EQ(teamOrder({1, 2, 3, 4}), (Sums{3, 2, 1, 0}));
-}
-
-TEST(CloseStage, ASingleStageLeavesNoRecord)
-{
-    setUpRace(ONE_SPRINT, {});
-    raceSetup.multiStage = false;
-    closeStage();
-    EXPECT_EQ(gameState, STATE_FINAL_SCORECARD);
-    EXPECT_EQ(returnState, STATE_RACE_CLOSED);
-    EXPECT_TRUE(raceSetup.raceStages.empty());
 }
 
 TEST(CloseStage, AStageOfSeveralIsAddedWithoutTheDisqualified)
@@ -157,14 +124,18 @@ TEST(CloseStage, AStageOfSeveralIsAddedWithoutTheDisqualified)
     raceSetup.multiStage = true;
     raceSetup.raceStages.resize(2);
     view.scorecardGeneral = true;
-    race.resultSlots[FINISH_SLOT] = 5;
-    race.resultSlots[FINISH_SLOT + 1] = 6;
+    race.resultSlots = places({{FINISH_SLOT, 5}, {FINISH_SLOT + 1, 6}});
     race.riders[5].disqualified = 1;
     closeStage();
+    EXPECT_EQ(gameState, STATE_FINAL_SCORECARD);
+    EXPECT_EQ(returnState, STATE_RACE_CLOSED);
     ASSERT_EQ(raceSetup.raceStages.size(), 3u);
     EXPECT_EQ(raceSetup.raceStages[2].courseText, ONE_SPRINT);
-    EXPECT_EQ(raceSetup.raceStages[2].slots[FINISH_SLOT], -1);
-    EXPECT_EQ(raceSetup.raceStages[2].slots[FINISH_SLOT + 1], 6);
-    EXPECT_EQ(view.scorecardStage, 2); // the one just ended
+    EXPECT_EQ(raceSetup.raceStages[2].slots, places({{FINISH_SLOT + 1, 6}})); // nobody moves up
+    EXPECT_EQ(view.scorecardStage, 2);
     EXPECT_FALSE(view.scorecardGeneral);
+
+    raceSetup.multiStage = false;
+    closeStage();
+    EXPECT_EQ(raceSetup.raceStages.size(), 3u);
 }

@@ -67,23 +67,17 @@ TEST(Finishers, TheLineDirectlyBehindLeavesWithTheLeader)
     EXPECT_EQ(occupant(115, 4), 3);
 }
 
-TEST(Finishers, WhoStandsOnTheLineHasNotFinished)
+TEST(Finishers, NeitherWhoStandsOnTheLineNorALappedRiderIsOne)
 {
-    setUpPersonsRace(ONE_LAP, {{0, 116, 4, MOVED}, {1, 115, 4, MOVED}, {2, 114, 4, MOVED}});
+    // 7, 1 is the same printed square as 116, 4: the line has no gap there.
+    setUpPersonsRace(
+        ONE_LAP, {{0, 117, 4, MOVED}, {5, 7, 1, MOVED}, {1, 115, 4, MOVED}, {2, 114, 4, MOVED}});
     race.currentRider = 0;
     nextTurn();
     EXPECT_TRUE(finished(1));
+    EXPECT_FALSE(finished(5));
     EXPECT_FALSE(finished(2));
     EXPECT_EQ(race.currentRider, 2);
-}
-
-TEST(Finishers, ALappedRiderOnTheSamePrintedSquareStaysInTheRace)
-{
-    setUpPersonsRace(ONE_LAP, {{0, 117, 4, MOVED}, {5, 7, 1}, {1, 115, 4, MOVED}});
-    race.currentRider = 0;
-    nextTurn(); // 7, 1 is the same printed square as 116, 4: the line has no gap
-    EXPECT_FALSE(finished(5));
-    EXPECT_TRUE(finished(1));
 }
 
 TEST(RoundEnd, WhoMissesATurnHoldsNobodyUp)

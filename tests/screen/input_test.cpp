@@ -95,6 +95,23 @@ TEST(Mouse, ATeamWithoutANameIsTold)
     EXPECT_EQ(gameState, STATE_TEAM_SETUP);
 }
 
+// "Exit" comes up where "Back" was, and "Back" where "OK" was.
+TEST(Mouse, ADoubleClickDoesNothingTwice)
+{
+    startProgram(640, 512);
+    Player player;
+    player.click("Start");
+    player.doubleClick(cornerButton());
+    EXPECT_EQ(gameState, STATE_MAIN_MENU);
+    EXPECT_EQ(fakeHost.quits, 0);
+    player.doubleClick(menuManualButton());
+    player.doubleClick(manualOkButton());
+    EXPECT_EQ(gameState, STATE_MAIN_MENU);
+    EXPECT_EQ(fakeHost.quits, 0);
+    player.click("Exit");
+    EXPECT_EQ(fakeHost.quits, 1);
+}
+
 // Before the race throws act on the release, in it on the press.
 TEST(Mouse, NextActsOnTheReleaseAndThrowOnThePress)
 {

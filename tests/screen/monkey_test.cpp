@@ -270,8 +270,7 @@ TEST(Monkey, PressesAnythingAndNothingBreaks)
         if (event % EVENTS_A_FRAME == 0)
             drawFrame();
     }
-    for (const GameState state :
-         {STATE_MAIN_MENU, STATE_TEAM_SETUP, STATE_COURSE_SELECT, STATE_COURSE_DESIGN, STATE_TURN,
-          STATE_MOVE, STATE_ANIMATE, STATE_PLACE_HUMAN, STATE_CONFIRM_QUIT, STATE_FOLLOW_PROMPT})
+    for (const GameState state : {STATE_MAIN_MENU, STATE_TEAM_SETUP, STATE_COURSE_SELECT,
+                                  STATE_TURN, STATE_MOVE, STATE_ANIMATE, STATE_PLACE_HUMAN})
         EXPECT_TRUE(seen[state]) << "never came to state " << state;
 }

@@ -26,6 +26,7 @@ constexpr NamedControl NAMED_CONTROLS[] = {
     {"OK",          STATE_EVENT_HANDIN,     handInOkButton},
     {"OK",          ANY,                    dialogOkButton},
     {"Back",        ANY,                    cornerButton},
+    {"Exit",        STATE_MAIN_MENU,        exitButton},
     {"Throw",       STATE_EVENT_DIE,        extraThrowButton},
     {"Throw",       ANY,                    throwButton},
     {"Next",        ANY,                    throwButton},
@@ -53,8 +54,13 @@ static int windowY(float y)
     return layout.viewY + static_cast<int>(y);
 }
 
+// Somebody who takes his time between two clicks, but for those of a double click.
+static int now = 0;
+
 void Player::press(float x, float y)
 {
+    now += 1000;
+    mouseClock = [] { return now; };
     onMouse(GLUT_LEFT_BUTTON, GLUT_DOWN, windowX(x), windowY(y));
 }
 
@@ -74,6 +80,13 @@ void Player::click(const Rect& at)
     const float y = at.y + at.h * 0.5f;
     press(x, y);
     release(x, y);
+}
+
+void Player::doubleClick(const Rect& at)
+{
+    click(at);
+    now -= 1000 - 100;
+    click(at);
 }
 
 void Player::rightClick(const Rect& at)

@@ -13,6 +13,7 @@ struct Player {
     // state shows it. Fails the test if the state has none.
     void click(std::string_view label);
     void click(const Rect& at);
+    void doubleClick(const Rect& at);
     void rightClick(const Rect& at);
     void press(float x, float y); // places in the drawing area
     void release(float x, float y);
