@@ -4,7 +4,7 @@
 
 struct FakeHost {
     int redraws = 0;
-    long clock = 0;     // ms that timers have waited so far
+    long clock = 0; // ms that timers have waited so far
     int quits = 0;
     int pendingMs = -1; // delay of the tick that is armed, -1 none
 };
