@@ -18,10 +18,11 @@ DISPLAY_PACKAGES=(xvfb xauth openbox)
 # Brings that display into a browser.
 BROWSER_PACKAGES=(x11vnc novnc websockify)
 
-# Everything else that the check runs: a second compiler with its sanitizers, the linters, the
-# libraries of tests, benchmarks and the painter, and the hands and eyes of the window tests.
+# Everything else that the check runs: a second compiler with its sanitizers (and llvm for the names
+# in what they report), the linters, the libraries of tests, benchmarks and the painter, and the
+# hands and eyes of the window tests.
 CHECK_PACKAGES=(
-    clang libclang-rt-14-dev clang-format clang-tidy shellcheck
+    clang libclang-rt-14-dev llvm clang-format clang-tidy shellcheck
     pkg-config libcairo2-dev libgtest-dev libbenchmark-dev
     xdotool imagemagick procps
 )

@@ -97,6 +97,7 @@ void startDesign()
 {
     courseText.clear();
     courseScreens.designChoice = 0;
+    courseScreens.saveFailed = false;
     clearBoxes();
 }
 

@@ -38,6 +38,7 @@ void confirmTeamSetup()
         enter(STATE_SETUP_MESSAGE);
         return;
     }
+    raceSetup.raceStages.clear();
     courseText.clear();
     courseScreens.courseHover = -1;
     returnState = gameState;

@@ -177,8 +177,10 @@ static void teamTabKey(bool backward)
     showTeam((view.shownTeam + (backward ? TEAM_COUNT - 1 : 1)) % TEAM_COUNT);
 }
 
-// Each letter as it was last pressed, by its small form; 0 before.
+// Each key as it was last pressed, by its small letter; 0 before, COMMAND with Ctrl or Alt.
+constexpr unsigned char COMMAND = 1;
 static Table<unsigned char, 256> pressedAs{};
+static bool tabPressedBackward = false;
 
 static unsigned char smallLetter(unsigned char key)
 {
@@ -186,9 +188,27 @@ static unsigned char smallLetter(unsigned char key)
     return static_cast<unsigned char>(capital ? key + ('a' - 'A') : key);
 }
 
+static bool commandHeld()
+{
+    return (heldModifiers() & (GLUT_ACTIVE_CTRL | GLUT_ACTIVE_ALT)) != 0;
+}
+
+// With Ctrl a letter comes as a control character, and as itself once Ctrl is let go.
+static void rememberCommand(unsigned char key)
+{
+    constexpr unsigned char lettersBehind = 'a' - 1;
+    pressedAs[smallLetter(key)] = COMMAND;
+    if (key <= 'z' - lettersBehind)
+        pressedAs[key + lettersBehind] = COMMAND;
+}
+
 void onKeyDown(unsigned char key, int, int)
 {
+    if (commandHeld())
+        return rememberCommand(key);
     pressedAs[smallLetter(key)] = key;
+    if (key == TAB)
+        tabPressedBackward = (heldModifiers() & GLUT_ACTIVE_SHIFT) != 0;
 }
 
 static unsigned char asPressed(unsigned char key)
@@ -201,15 +221,15 @@ static unsigned char asPressed(unsigned char key)
 // state that is left: where one letter has both meanings it does both.
 void onKeyUp(unsigned char key, int, int)
 {
-    const int held = heldModifiers();
-    if (held & (GLUT_ACTIVE_CTRL | GLUT_ACTIVE_ALT))
-        return;
     key = asPressed(key);
+    if (key == COMMAND || commandHeld())
+        return;
     keyOfState(key);
     if (racePanelActive())
         actOnLetter(key, panelLetters);
     if (key == TAB)
-        teamTabKey(held & GLUT_ACTIVE_SHIFT);
+        teamTabKey(std::exchange(tabPressedBackward, false) ||
+                   (heldModifiers() & GLUT_ACTIVE_SHIFT) != 0);
 }
 
 static void steer(int key)
@@ -296,7 +316,7 @@ static bool cardKeysAct()
 
 void onSpecialUp(int key, int, int)
 {
-    if (heldModifiers() & (GLUT_ACTIVE_CTRL | GLUT_ACTIVE_ALT))
+    if (commandHeld())
         return;
     if (gameState == STATE_MOVE)
         steer(key);

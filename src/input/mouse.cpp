@@ -53,6 +53,8 @@ static void pressScreen(Point at)
 {
     if (gameState == STATE_TURN)
         pressInTurn(at);
+    else if (gameState == STATE_EVENT_DIE && at.in(extraThrowButton()))
+        throwExtraDie();
 }
 
 static void releaseInMainMenu(Point at)
@@ -268,7 +270,8 @@ static int millisecondsOfGlut()
 int (*mouseClock)() = millisecondsOfGlut;
 
 // The second half of a double click often meets another control, which stands where the first half
-// was: "Exit" where "Back" had been. So it is dropped when the first half led to another state.
+// was: "Exit" where "Back" had been, or the next question where the answer to the last was. So it
+// is dropped when the first half led to another state, or to one like it.
 struct DoubleClickGuard {
     GameState pressedIn = STATE_LOADING;
     Point changedAt = {-1, -1}; // where and when a click led to another state
@@ -280,11 +283,18 @@ static DoubleClickGuard guard;
 
 static bool isSecondHalf(Point at)
 {
-    constexpr int intervalMs = 350;
+    constexpr int intervalMs = 200;
     constexpr int reach = 5; // pixels
     return guard.changedAt.x != -1 && mouseClock() - guard.changedTime < intervalMs &&
            std::abs(at.x - guard.changedAt.x) <= reach &&
            std::abs(at.y - guard.changedAt.y) <= reach;
+}
+
+// Whether a click that leaves the state as it was may have answered something all the same.
+static bool mayAskAgain(Point at)
+{
+    return dialogShown() || gameState == STATE_ORDER_RESULT || gameState == STATE_SKIP_HANDIN ||
+           (gameState == STATE_COURSE_DESIGN && at.in(saveCourseButton()));
 }
 
 static void clickLeft(bool pressed, Point at)
@@ -292,12 +302,13 @@ static void clickLeft(bool pressed, Point at)
     if (pressed) {
         guard.dropped = isSecondHalf(at);
         guard.pressedIn = gameState;
-        guard.changedAt = {-1, -1};
+        if (!guard.dropped)
+            guard.changedAt = {-1, -1};
     }
     if (guard.dropped)
         return;
     pressed ? pressLeft(at) : releaseLeft(at);
-    if (!pressed && gameState != guard.pressedIn) {
+    if (!pressed && (gameState != guard.pressedIn || mayAskAgain(at))) {
         guard.changedAt = at;
         guard.changedTime = mouseClock();
     }
@@ -324,20 +335,6 @@ static void drag(const Rect& box, Point at, void (*place)(float x, float y))
     redrawNow();
 }
 
-// The row under the pointer is lit with a button held as well, so that what is lit is what counts.
-void onDrag(int x, int y)
-{
-    const Point at = inDrawingArea(x, y);
-    if (gameState == STATE_LANGUAGE)
-        hoverLanguage(at.x, at.y);
-    if (!view.dragActive)
-        return;
-    if (dialogShown())
-        drag(dialogBox(), at, placeDialog);
-    else if (scorecardShown())
-        drag(scorecardBox(), at, placeScorecard);
-}
-
 static int courseUnder(Point at)
 {
     for (int index = 0; index < FIXED_COURSE_COUNT; ++index)
@@ -346,16 +343,37 @@ static int courseUnder(Point at)
     return -1;
 }
 
-void onHover(int x, int y)
+static void hoverCourse(Point at)
 {
-    const Point at = inDrawingArea(x, y);
-    if (gameState == STATE_LANGUAGE)
-        hoverLanguage(at.x, at.y);
-    if (gameState != STATE_COURSE_SELECT)
-        return;
     const int hovered = courseUnder(at);
     if (hovered == courseScreens.courseHover)
         return;
     courseScreens.courseHover = hovered;
     redrawNow();
+}
+
+static void hover(Point at)
+{
+    if (gameState == STATE_LANGUAGE)
+        hoverLanguage(at.x, at.y);
+    else if (gameState == STATE_COURSE_SELECT)
+        hoverCourse(at);
+}
+
+// What is under the pointer is lit with a button held as well, so that what is lit is what counts.
+void onDrag(int x, int y)
+{
+    const Point at = inDrawingArea(x, y);
+    hover(at);
+    if (!view.dragActive)
+        return;
+    if (dialogShown())
+        drag(dialogBox(), at, placeDialog);
+    else if (scorecardShown())
+        drag(scorecardBox(), at, placeScorecard);
+}
+
+void onHover(int x, int y)
+{
+    hover(inDrawingArea(x, y));
 }

@@ -5,6 +5,7 @@
 #include "app/host.h"
 #include "app/view.h"
 #include "board/course.h"
+#include "board/rider_motion.h"
 #include "race/event_deck.h"
 #include "race/placing.h"
 #include "race/race_state.h"
@@ -33,6 +34,7 @@ void startRace()
     race = freshRace();
     assembleCourse();
     view = View{};
+    restMotion();
     fillReachTables();
     rebuildEventCards();
     race.currentRider = 0;

@@ -7,6 +7,8 @@
 #include <sys/stat.h>
 
 #include <cstdio>
+#include <filesystem>
+#include <system_error>
 #include <vector>
 
 static constexpr const char* FILE_NAME = "courses";
@@ -61,12 +63,24 @@ static bool mayAppend()
     return stat(FILE_NAME, &info) != 0 || S_ISREG(info.st_mode);
 }
 
+// A record that was only half written, by a full disk or a crash, would spoil all behind it.
+static void cutTornRecord()
+{
+    std::error_code none;
+    const auto size = std::filesystem::file_size(FILE_NAME, none);
+    if (!none && size % RECORD_SIZE != 0)
+        std::filesystem::resize_file(FILE_NAME, size - size % RECORD_SIZE, none);
+}
+
 bool saveDesign()
 {
     std::vector<std::uint8_t> record;
     putText(record, RECORD_NAME, NAME_SIZE);
     putText(record, courseText, TEXT_SIZE);
-    std::FILE* file = mayAppend() ? std::fopen(FILE_NAME, "ab") : nullptr;
+    if (!mayAppend())
+        return false;
+    cutTornRecord();
+    std::FILE* file = std::fopen(FILE_NAME, "ab");
     if (!file)
         return false;
     const bool written = std::fwrite(record.data(), 1, record.size(), file) == record.size();

@@ -58,20 +58,20 @@ static std::vector<std::string> linesOf(std::string_view text, float room)
 
 // Lines one below the other, centred on the height of the box. left is the middle of the text or,
 // with ALIGN_LEFT, where it begins.
-static void drawLines(const std::vector<std::string>& lines, float x, Align align, float pitch)
+static void drawLines(const std::vector<std::string>& lines, float x, Align align)
 {
     const Rect box = dialogBox();
     const float middle = static_cast<float>(lines.size() - 1) * 0.5f;
     for (std::size_t i = 0; i < lines.size(); ++i)
-        drawText(box.x + x, box.y + box.h * 0.5f + (static_cast<float>(i) - middle) * pitch, align,
-                 lines[i]);
+        drawText(box.x + x, box.y + box.h * 0.5f + (static_cast<float>(i) - middle) * WRAPPED_PITCH,
+                 align, lines[i]);
 }
 
 // A message in the middle of the box; margin is kept free at either side.
 static void drawMessage(std::string_view message, float margin = TEXT_MARGIN)
 {
     const float w = dialogBox().w;
-    drawLines(linesOf(message, w - 2.0f * margin), w * 0.5f, ALIGN_CENTRE, WRAPPED_PITCH);
+    drawLines(linesOf(message, w - 2.0f * margin), w * 0.5f, ALIGN_CENTRE);
 }
 
 static void drawQuestion(std::string_view question, Control left, Control right)
@@ -106,15 +106,21 @@ static void drawFollowPrompt()
     drawBox();
     drawLines(linesOf(withNumber(texts.followPrompt, riderNumber(race.currentRider)),
                       box.w - textX - TEXT_MARGIN),
-              textX, ALIGN_LEFT, WRAPPED_PITCH);
+              textX, ALIGN_LEFT);
     drawPawnAt(race.followerRider, box.x + box.w * 0.2f, box.y + box.h * 0.5f);
     drawTwoButtons(CONTROL_YES, CONTROL_NO);
 }
 
 static void drawSetupMessages()
 {
+    const Rect box = dialogBox();
     drawBox();
-    drawLines(teamSetup.setupMessages, dialogBox().w * 0.5f, ALIGN_CENTRE, LINE_PITCH);
+    float y = box.y + box.h * 0.5f -
+              static_cast<float>(teamSetup.setupMessages.size() + 1) * 0.5f * LINE_PITCH;
+    for (const std::string& message : teamSetup.setupMessages) {
+        drawText(box.x + box.w * 0.5f, y, ALIGN_CENTRE, message);
+        y += LINE_PITCH;
+    }
     drawOkButton();
 }
 

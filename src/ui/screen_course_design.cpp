@@ -68,7 +68,7 @@ static void drawSaveFailure()
     const float w = static_cast<float>(textWidth(message, FONT_BODY)) + 30.0f;
     const Rect save = saveCourseButton();
     const float x = save.x + save.w * 0.5f;
-    const float y = save.y + save.h * 1.7f;
+    const float y = save.y - 14.0f;
     setColour(WHITE);
     fillRect(x - w * 0.5f, y - 9.0f, w, 18.0f);
     setColour(FAILURE_RED);

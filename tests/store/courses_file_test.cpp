@@ -80,6 +80,8 @@ TEST_F(SavedCourses, CutAndBrokenRecordsDoNoHarm)
     append(std::string(48, '4'));
     append("torn");
     EXPECT_EQ(countSavedCourses(), 3);
+    save("67S8F"); // not behind the torn rest
+    EXPECT_EQ(readSavedCourse(3), "67S8F");
     EXPECT_EQ(readSavedCourse(0), "64S5F");
     EXPECT_EQ(readSavedCourse(1), "");
     EXPECT_EQ(readSavedCourse(2), "");
