@@ -13,6 +13,12 @@ constexpr float DEFAULT_STEP_DISTANCE = 10.0f;
 constexpr int DEFAULT_STEP_DELAY = 200;
 constexpr int SETTINGS_NUMBER_MAX = 999;
 
+// The shapes of screen that can be chosen.
+struct ScreenRatio {
+    double w, h;
+};
+constexpr ScreenRatio SCREEN_RATIOS[] = {{5.0, 4.0}, {4.0, 3.0}, {16.0, 10.0}};
+
 struct Settings {
     int language = LANGUAGE_ENGLISH;            // -1 while the pointer is on no language
     int smoothMovement = 1;                     // 1 smooth, 0 stepwise

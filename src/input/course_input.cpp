@@ -4,13 +4,11 @@
 #include "app/host.h"
 #include "board/course.h"
 #include "board/designer.h"
+#include "input/keys.h"
 #include "race/start.h"
 #include "store/courses_file.h"
 #include "ui/access_keys.h"
 #include "ui/controls.h"
-
-static constexpr unsigned char ENTER = 13;
-static constexpr unsigned char SPACE = 32;
 
 static void enter(GameState state)
 {
@@ -98,7 +96,7 @@ void releaseInCourseDesigner(int x, int y)
 
 void keyInCourseDesigner(unsigned char key)
 {
-    const bool confirms = key == ENTER || key == SPACE || key == 'o' || key == 'O';
+    const bool confirms = isConfirming(key);
     if (designFinished() ? confirms : isAccessKey(CONTROL_ADD_SECTION, key))
         addOrStart();
     else if (isAccessKey(CONTROL_PREVIOUS_SECTION, key))

@@ -8,6 +8,7 @@
 #include "board/course.h"
 #include "input/actions.h"
 #include "input/course_input.h"
+#include "input/keys.h"
 #include "input/menu_input.h"
 #include "input/settings_input.h"
 #include "input/setup_input.h"
@@ -23,10 +24,6 @@
 #include <GL/freeglut.h>
 
 #include <utility>
-
-constexpr unsigned char TAB = 9;
-constexpr unsigned char ENTER = 13;
-constexpr unsigned char SPACE = 32;
 
 static int modifiersOfGlut()
 {
@@ -114,11 +111,6 @@ static void letterOfState(unsigned char key)
     }
 }
 
-static bool isConfirming(unsigned char key)
-{
-    return key == ENTER || key == SPACE || key == 'o' || key == 'O';
-}
-
 // What "OK" does in the present state, or null where the confirming keys are keys like any other.
 static void (*confirmation())()
 {
@@ -140,7 +132,7 @@ static void (*confirmation())()
 
 static void steeringKey(unsigned char key)
 {
-    const bool done = key == ENTER || key == SPACE;
+    const bool done = key == KEY_ENTER || key == KEY_SPACE;
     if (gameState == STATE_PLACE_HUMAN && done)
         placeHumanRider();
     else if (gameState == STATE_MOVE && done)
@@ -207,7 +199,7 @@ void onKeyDown(unsigned char key, int, int)
     if (commandHeld())
         return rememberCommand(key);
     pressedAs[smallLetter(key)] = key;
-    if (key == TAB)
+    if (key == KEY_TAB)
         tabPressedBackward = (heldModifiers() & GLUT_ACTIVE_SHIFT) != 0;
 }
 
@@ -227,7 +219,7 @@ void onKeyUp(unsigned char key, int, int)
     keyOfState(key);
     if (racePanelActive())
         actOnLetter(key, panelLetters);
-    if (key == TAB)
+    if (key == KEY_TAB)
         teamTabKey(std::exchange(tabPressedBackward, false) ||
                    (heldModifiers() & GLUT_ACTIVE_SHIFT) != 0);
 }

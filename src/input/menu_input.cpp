@@ -4,16 +4,13 @@
 #include "app/host.h"
 #include "app/overlays.h"
 #include "app/settings.h"
+#include "input/keys.h"
 #include "store/settings_file.h"
 #include "ui/controls.h"
 #include "ui/manual_pages.h"
 #include "ui/texts.h"
 
 #include <GL/freeglut.h>
-
-static constexpr unsigned char ENTER = 13;
-static constexpr unsigned char ESCAPE = 27;
-static constexpr unsigned char SPACE = 32;
 
 void openLanguages()
 {
@@ -75,9 +72,9 @@ void releaseInManual(int x, int y)
 
 void keyInManual(unsigned char key)
 {
-    if (key == ENTER || key == SPACE)
+    if (key == KEY_ENTER || key == KEY_SPACE)
         showPage(manualPage + 1);
-    else if (key == ESCAPE || key == 'o' || key == 'O')
+    else if (key == KEY_ESCAPE || key == 'o' || key == 'O')
         toMainMenu();
 }
 

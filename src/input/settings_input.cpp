@@ -3,6 +3,7 @@
 #include "app/host.h"
 #include "app/overlays.h"
 #include "app/settings.h"
+#include "input/keys.h"
 #include "input/text_field.h"
 #include "store/settings_file.h"
 #include "ui/controls.h"
@@ -13,17 +14,7 @@
 #include <GL/freeglut.h>
 
 #include <cstdlib>
-
-static constexpr unsigned char BACKSPACE = 8;
-static constexpr unsigned char TAB = 9;
-static constexpr unsigned char ENTER = 13;
-static constexpr unsigned char DELETE = 127;
-
-struct RatioChoice {
-    double w, h;
-};
-
-constexpr Table<RatioChoice, 3> ratioChoices = {{{5.0, 4.0}, {4.0, 3.0}, {16.0, 10.0}}};
+#include <iterator>
 
 static TextField activeField()
 {
@@ -48,7 +39,7 @@ static bool ratioDiffers(double w, double h)
     return settings.ratioW != w || settings.ratioH != h;
 }
 
-static void chooseRatio(const RatioChoice& choice)
+static void chooseRatio(const ScreenRatio& choice)
 {
     if (!ratioDiffers(choice.w, choice.h))
         return;
@@ -117,10 +108,10 @@ static bool releaseInFields(int x, int y)
 
 static bool releaseInRatios(int x, int y)
 {
-    for (int i = 0; i < ratioChoices.size(); ++i) {
+    for (int i = 0; i < std::ssize(SCREEN_RATIOS); ++i) {
         if (!ratioRadio(i).contains(x, y))
             continue;
-        chooseRatio(ratioChoices[i]);
+        chooseRatio(SCREEN_RATIOS[i]);
         return true;
     }
     return false;
@@ -152,11 +143,11 @@ static int nextField()
 
 void keyInSettings(unsigned char key)
 {
-    if (key == TAB || key == ENTER)
+    if (key == KEY_TAB || key == KEY_ENTER)
         activate(nextField());
-    else if (key == BACKSPACE)
+    else if (key == KEY_BACKSPACE)
         eraseBefore(activeField());
-    else if (key == DELETE)
+    else if (key == KEY_DELETE)
         eraseAt(activeField());
     else if (key >= '0' && key <= '9')
         typeCharacter(activeField(), static_cast<char>(key));

@@ -3,6 +3,7 @@
 #include "app/host.h"
 #include "app/overlays.h"
 #include "input/actions.h"
+#include "input/keys.h"
 #include "input/text_field.h"
 #include "race/race_state.h"
 #include "ui/controls.h"
@@ -11,10 +12,6 @@
 #include <GL/freeglut.h>
 
 static constexpr int RACE_NAME_FIELD = TEAM_COUNT;
-static constexpr unsigned char BACKSPACE = 8;
-static constexpr unsigned char TAB = 9;
-static constexpr unsigned char ENTER = 13;
-static constexpr unsigned char DELETE = 127;
 
 static int fieldCount()
 {
@@ -104,11 +101,11 @@ static bool isNameCharacter(unsigned char key)
 
 void keyInTeamSetup(unsigned char key)
 {
-    if (key == TAB || key == ENTER)
+    if (key == KEY_TAB || key == KEY_ENTER)
         activate((teamSetup.teamActiveField + 1) % fieldCount());
-    else if (key == BACKSPACE)
+    else if (key == KEY_BACKSPACE)
         eraseBefore(activeField());
-    else if (key == DELETE)
+    else if (key == KEY_DELETE)
         eraseAt(activeField());
     else if (isNameCharacter(key))
         typeCharacter(activeField(), static_cast<char>(key));

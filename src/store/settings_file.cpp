@@ -4,14 +4,17 @@
 #include "race/race_state.h"
 #include "store/bytes.h"
 
+#include <algorithm>
+
 static constexpr char FILE_NAME[] = "settings";
 static constexpr std::size_t FILE_SIZE = 82;
 static constexpr std::size_t NAME_FIELD_SIZE = NAME_LENGTH_MAX + 1;
 
 static bool isOfferedRatio(double width, double height)
 {
-    return (width == 5.0 && height == 4.0) || (width == 4.0 && height == 3.0) ||
-           (width == 16.0 && height == 10.0);
+    return std::ranges::any_of(SCREEN_RATIOS, [width, height](const ScreenRatio& ratio) {
+        return ratio.w == width && ratio.h == height;
+    });
 }
 
 static void replaceOutOfRange()

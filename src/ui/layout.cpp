@@ -8,18 +8,12 @@
 Layout layout;
 bool ratioChosenByProgram = false;
 
-struct Ratio {
-    double w, h;
-};
-
-constexpr Table<Ratio, 3> knownRatios = {{{5.0, 4.0}, {4.0, 3.0}, {16.0, 10.0}}};
-
 constexpr float LIST_COLUMNS = static_cast<float>(raceListCols);
 constexpr float LIST_LINES =
     static_cast<float>(raceListRows + 1); // with half a line above and below
 
 // What the program chose last, to tell whether somebody has chosen otherwise since.
-static Ratio guessedRatio = {-1.0, -1.0};
+static ScreenRatio guessedRatio = {-1.0, -1.0};
 
 // Lines on a page of the manual; one at least, however low the window.
 static float wholeLines(float manualH)
@@ -324,24 +318,24 @@ static void layoutOverview(Layout& l, float viewW, float viewH)
 
 // clang-format on
 
-static bool hasRatio(const Ratio& ratio)
+static bool hasRatio(const ScreenRatio& ratio)
 {
     return settings.ratioW == ratio.w && settings.ratioH == ratio.h;
 }
 
 static bool ratioKnown()
 {
-    for (const Ratio& ratio : knownRatios)
+    for (const ScreenRatio& ratio : SCREEN_RATIOS)
         if (hasRatio(ratio))
             return true;
     return false;
 }
 
 // Wide monitors of whatever shape take 16:10; between the three the nearest is the least distorted.
-static Ratio nearestRatio(double quotient)
+static ScreenRatio nearestRatio(double quotient)
 {
-    Ratio nearest = knownRatios[0];
-    for (const Ratio& ratio : knownRatios)
+    ScreenRatio nearest = SCREEN_RATIOS[0];
+    for (const ScreenRatio& ratio : SCREEN_RATIOS)
         if (std::abs(quotient - ratio.w / ratio.h) < std::abs(quotient - nearest.w / nearest.h))
             nearest = ratio;
     return nearest;
@@ -374,8 +368,8 @@ float aspectFix()
 // part of the width that a 5:4 monitor of the same height would have.
 void updateDrawingArea()
 {
-    const double ratioW = ratioKnown() ? settings.ratioW : knownRatios[0].w;
-    const double ratioH = ratioKnown() ? settings.ratioH : knownRatios[0].h;
+    const double ratioW = ratioKnown() ? settings.ratioW : SCREEN_RATIOS[0].w;
+    const double ratioH = ratioKnown() ? settings.ratioH : SCREEN_RATIOS[0].h;
     const double share = 1.0 - (ratioW - 5.0 * ratioH / 4.0) / ratioW;
 
     layout.viewW = static_cast<int>(layout.windowW * share);

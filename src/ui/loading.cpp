@@ -7,6 +7,7 @@
 #include "board/section_shapes.h"
 #include "ui/layout.h"
 #include "ui/models.h"
+#include "ui/picture_strip.h"
 #include "ui/textures.h"
 #include "ui/widgets.h"
 
@@ -18,21 +19,6 @@ constexpr int SETTLING_MS = 150;
 
 // Painting takes its time, and pixels don't depend on the layout: once is enough.
 static bool sectionPaintDone = false;
-
-// Pictures are stored mirrored, so that s runs from right to left.
-static void drawPicture(float w, float h)
-{
-    glBegin(GL_TRIANGLE_STRIP);
-    glTexCoord2f(1.0f, 0.0f);
-    glVertex2f(0.0f, 0.0f);
-    glTexCoord2f(1.0f, 1.0f);
-    glVertex2f(0.0f, h);
-    glTexCoord2f(0.0f, 0.0f);
-    glVertex2f(w, 0.0f);
-    glTexCoord2f(0.0f, 1.0f);
-    glVertex2f(w, h);
-    glEnd();
-}
 
 // The working texture is loaded within the list: its pixels travel with it.
 static void compilePicture(unsigned list, const Picture& picture, GLint filter, float w, float h)
@@ -46,7 +32,7 @@ static void compilePicture(unsigned list, const Picture& picture, GLint filter, 
     glTexImage2D(GL_TEXTURE_2D, 0, GL_RGB, picture.width, picture.height, 0, GL_RGB,
                  GL_UNSIGNED_BYTE, picture.bytes.data());
     glEnable(GL_TEXTURE_2D);
-    drawPicture(w, h);
+    drawPicture({0.0f, 0.0f, w, h});
     glDisable(GL_TEXTURE_2D);
     glEndList();
 }

@@ -7,6 +7,7 @@
 #include "race/race_state.h"
 #include "ui/cameras.h"
 #include "ui/layout.h"
+#include "ui/picture_strip.h"
 #include "ui/text.h"
 #include "ui/textures.h"
 #include "ui/widgets.h"
@@ -143,32 +144,12 @@ static void compilePawnTop(unsigned list, int figure, bool turned)
     glEndList();
 }
 
-struct Crop {
-    float left, right, top, bottom; // texture coordinates
-};
-
-constexpr Crop wholePicture = {1.0f, 0.0f, 0.0f, 1.0f}; // pictures are stored mirrored
-
-static void drawPicture(float w, float h, const Crop& crop)
-{
-    glBegin(GL_TRIANGLE_STRIP);
-    glTexCoord2f(crop.left, crop.top);
-    glVertex2f(0.0f, 0.0f);
-    glTexCoord2f(crop.left, crop.bottom);
-    glVertex2f(0.0f, h);
-    glTexCoord2f(crop.right, crop.top);
-    glVertex2f(w, 0.0f);
-    glTexCoord2f(crop.right, crop.bottom);
-    glVertex2f(w, h);
-    glEnd();
-}
-
 static void compilePicture(unsigned list, int texture, GLint filter, float w, float h,
                            const Crop& crop)
 {
     glNewList(list, GL_COMPILE);
     beginTexture(texture, filter, GL_DECAL);
-    drawPicture(w, h, crop);
+    drawPicture({0.0f, 0.0f, w, h}, crop);
     endTexture();
     glEndList();
 }

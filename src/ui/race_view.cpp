@@ -19,6 +19,7 @@
 #include <GL/gl.h>
 
 #include <string>
+#include <string_view>
 
 static void drawViewToggle()
 {
@@ -100,14 +101,28 @@ static void drawOrderBox()
     }
 }
 
+// The button beside the extra die, which stays grey once the die is thrown.
+static bool extraThrowShown()
+{
+    const bool person = race.currentRider != -1 && race.riders[race.currentRider].isHuman;
+    return gameState == STATE_EVENT_DIE ? person : race.extraDie != -1;
+}
+
+// A label that would run under the button of the extra die stands below the box instead.
 static void drawBreakawayBox()
 {
     const bool open =
         gameState == STATE_TURN && (race.playedCards[0] != -1 || race.playedCards[1] != -1);
     const Rect box = breakawayBox();
+    const std::string_view label = controlLabel(CONTROL_BREAKAWAY);
+    const float labelEnd = box.x + 1.15f * aspectFix() * layout.breakawaySize +
+                           static_cast<float>(textWidth(label, FONT_BODY));
+    const bool below = extraThrowShown() && labelEnd > extraThrowButton().x;
     drawCheckBox(static_cast<int>(box.x), static_cast<int>(box.y),
-                 static_cast<int>(layout.breakawaySize), controlLabel(CONTROL_BREAKAWAY),
+                 static_cast<int>(layout.breakawaySize), below ? "" : label,
                  accessIndex(CONTROL_BREAKAWAY), open, race.breakaway != 0);
+    if (below)
+        drawText(box.x, box.y + box.h + 10.0f, ALIGN_LEFT, label);
 }
 
 static void drawExtraCard()
@@ -179,8 +194,7 @@ static void drawExtraDie()
     if (!throwing && race.extraDie == -1)
         return;
     drawDice(DICE_EXTRA);
-    const bool person = race.currentRider != -1 && race.riders[race.currentRider].isHuman;
-    if (!throwing || person)
+    if (extraThrowShown())
         drawControl(CONTROL_THROW, extraThrowButton(), throwing);
 }
 

@@ -21,7 +21,7 @@ constexpr float MARGIN = 0.05f;
 constexpr float PLACE_COLUMN = 0.10f;
 constexpr float PAWN_COLUMN = 0.20f;
 constexpr float NAME_COLUMN = 0.27f;
-constexpr float SPRINT_COLUMN = 0.64f;
+constexpr float SPRINT_COLUMN = 0.58f;
 constexpr float FINISH_COLUMN = 0.78f;
 constexpr float TOTAL_COLUMN = 0.92f;
 

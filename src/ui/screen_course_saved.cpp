@@ -4,6 +4,7 @@
 #include "ui/controls.h"
 #include "ui/course_table.h"
 #include "ui/layout.h"
+#include "ui/picture_strip.h"
 #include "ui/text.h"
 #include "ui/texts.h"
 #include "ui/textures.h"
@@ -11,7 +12,6 @@
 
 #include <GL/gl.h>
 
-// Pictures are stored mirrored, so that s runs from right to left.
 static void drawBoardPicture(const Rect& at)
 {
     setColour(WHITE);
@@ -20,16 +20,7 @@ static void drawBoardPicture(const Rect& at)
     glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, GL_NEAREST);
     glTexEnvi(GL_TEXTURE_ENV, GL_TEXTURE_ENV_MODE, GL_DECAL);
     glEnable(GL_TEXTURE_2D);
-    glBegin(GL_TRIANGLE_STRIP);
-    glTexCoord2f(1.0f, 0.0f);
-    glVertex2f(at.x, at.y);
-    glTexCoord2f(1.0f, 1.0f);
-    glVertex2f(at.x, at.y + at.h);
-    glTexCoord2f(0.0f, 0.0f);
-    glVertex2f(at.x + at.w, at.y);
-    glTexCoord2f(0.0f, 1.0f);
-    glVertex2f(at.x + at.w, at.y + at.h);
-    glEnd();
+    drawPicture(at);
     glDisable(GL_TEXTURE_2D);
 }
 

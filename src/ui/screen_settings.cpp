@@ -57,17 +57,18 @@ static void drawMovement()
     drawPlainButton(defaultButton(), texts.defaultValues);
 }
 
-static void drawRatioChoice(float y, const std::string& label, double width, double height)
+static void drawRatioChoice(float y, const std::string& label, const ScreenRatio& ratio)
 {
-    drawChoice(layout.ratioRadioX, y, label, settings.ratioW == width && settings.ratioH == height);
+    drawChoice(layout.ratioRadioX, y, label,
+               settings.ratioW == ratio.w && settings.ratioH == ratio.h);
 }
 
 static void drawRatios()
 {
     drawFrameOf(ratioFrame(), texts.screenRatio);
-    drawRatioChoice(layout.ratio54Y, texts.ratio54, 5.0, 4.0);
-    drawRatioChoice(layout.ratio43Y, texts.ratio43, 4.0, 3.0);
-    drawRatioChoice(layout.ratio1610Y, texts.ratio1610, 16.0, 10.0);
+    drawRatioChoice(layout.ratio54Y, texts.ratio54, SCREEN_RATIOS[0]);
+    drawRatioChoice(layout.ratio43Y, texts.ratio43, SCREEN_RATIOS[1]);
+    drawRatioChoice(layout.ratio1610Y, texts.ratio1610, SCREEN_RATIOS[2]);
 }
 
 void drawSettings()
