@@ -255,6 +255,7 @@ endBareDisplay()
 play "$@"
 echo "With a window manager: $SECONDS seconds."
 
+rm -f bare_display
 setpriv --pdeathsig TERM Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp \
     3> bare_display 2> /dev/null &
 bareDisplay=$!
