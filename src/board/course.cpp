@@ -5,8 +5,6 @@
 CourseGrid course;
 std::string courseText;
 
-static constexpr int LAPS_LOOKED_THROUGH = 6;
-
 // Not worked out while compiling: six such grids as constants keep a compiler busy for minutes.
 Grid gridOf(int value)
 {
@@ -136,36 +134,6 @@ int firstStartLane()
 int endStartLane()
 {
     return opensWith(courseText, '6') ? 8 : 5;
-}
-
-// Rows r and r + 109, lanes l and l + 3, are the same printed square: a lap has 109 rows by either
-// way through the loop, and each lap stands three lanes further out.
-int occupantAt(int row, int lane)
-{
-    int lapRow = row % ROWS_PER_LAP;
-    int lapLane = lane - row / ROWS_PER_LAP * LANES_PER_LAP;
-    for (int lap = 0; lap < LAPS_LOOKED_THROUGH && lapRow < course.courseRowCount; ++lap) {
-        if (lapRow >= 0 && lapLane >= 0 && lapLane < COURSE_LANES) {
-            const int rider = course.courseOccupant[lapRow][lapLane];
-            if (rider != -1)
-                return rider;
-        }
-        lapRow += ROWS_PER_LAP;
-        lapLane += LANES_PER_LAP;
-    }
-    return -1;
-}
-
-int skipPassThrough(int row, int lane, int step)
-{
-    while (squareAt(row, lane) == PASS_THROUGH)
-        row += step;
-    return row;
-}
-
-int lineRow(int line)
-{
-    return line < SPRINT_COUNT ? course.sprintRows[line] : course.finishRow;
 }
 
 int terrainOf(int rider)

@@ -16,6 +16,7 @@ constexpr int COURSE_MAX_ROWS = 5 * ROWS_PER_LAP;
 constexpr int COURSE_LANES = 23;
 constexpr int LANES_PER_LAP = 3; // each lap stands so many lanes further out
 constexpr int LAP_END_MAX = 5;
+constexpr int LAPS_LOOKED_THROUGH = 6;
 constexpr int LINE_COUNT = SPRINT_COUNT + 1; // the sprints, then the finish
 
 using Grid = Table2<int, COURSE_MAX_ROWS, COURSE_LANES>;
@@ -78,14 +79,39 @@ inline int terrainAt(int row, int lane)
 // The rider who stands on a printed square on any lap, or -1. So a rider about to lap another is
 // stopped by him. A place outside the grid holds nobody itself, but is looked up on the later laps:
 // behind row 0 lies the end of the first lap.
-int occupantAt(int row, int lane);
+//
+// Rows r and r + 109, lanes l and l + 3, are the same printed square: a lap has 109 rows by either
+// way through the loop, and each lap stands three lanes further out.
+inline int occupantAt(int row, int lane)
+{
+    int lapRow = row % ROWS_PER_LAP;
+    int lapLane = lane - row / ROWS_PER_LAP * LANES_PER_LAP;
+    for (int lap = 0; lap < LAPS_LOOKED_THROUGH && lapRow < course.courseRowCount; ++lap) {
+        if (onGrid(lapRow, lapLane)) {
+            const int rider = course.courseOccupant[lapRow][lapLane];
+            if (rider != -1)
+                return rider;
+        }
+        lapRow += ROWS_PER_LAP;
+        lapLane += LANES_PER_LAP;
+    }
+    return -1;
+}
 
 // The nearest row from `row` in direction step (1 or -1) whose square in this lane isn't
 // PASS_THROUGH; it may lie outside the grid.
-int skipPassThrough(int row, int lane, int step);
+inline int skipPassThrough(int row, int lane, int step)
+{
+    while (squareAt(row, lane) == PASS_THROUGH)
+        row += step;
+    return row;
+}
 
 // Row of line k: 0 to 2 the sprints, 3 the finish; -1 where the course has none.
-int lineRow(int line);
+inline int lineRow(int line)
+{
+    return line < SPRINT_COUNT ? course.sprintRows[line] : course.finishRow;
+}
 
 // Terrain under a rider.
 int terrainOf(int rider);
