@@ -27,6 +27,8 @@ struct Settings {
     int stepDelay = DEFAULT_STEP_DELAY;         // ms between stepwise ticks, 0 to 999
     double ratioW = -1.0;                       // -1 and -1: no screen ratio chosen
     double ratioH = -1.0;
+
+    friend bool operator==(const Settings&, const Settings&) = default;
 };
 
 extern Settings settings;

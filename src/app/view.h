@@ -15,6 +15,8 @@ struct View {
     bool dragActive = false;       // a dialog or the scorecard is being dragged
     int dragOffsetX = 0;           // mouse relative to the box's corner at the press
     int dragOffsetY = 0;
+
+    friend bool operator==(const View&, const View&) = default;
 };
 
 extern View view;

@@ -19,6 +19,8 @@ struct CourseScreens {
     bool designFinishChecked = false; // likewise in the finish; it wins over a sprint
     int savedCourseIndex = 0;         // record shown by the browser of saved courses
     bool saveFailed = false;          // "courses" could not be opened; told until the next click
+
+    friend bool operator==(const CourseScreens&, const CourseScreens&) = default;
 };
 
 extern CourseScreens courseScreens;

@@ -240,7 +240,8 @@ const SpecialAct SPECIAL_ACTS[] = {
 };
 // clang-format on
 
-// Bytes of a plain record: exact, with no list of its fields that could fall behind.
+// Bytes of a plain record: exact, with no list of its fields that could fall behind. Only of a
+// record itself, not of a copy, whose padding may hold anything.
 template <typename T> std::string bytesOf(const T& record)
 {
     static_assert(std::is_trivially_copyable_v<T>);
@@ -291,13 +292,13 @@ auto setupOf(const World& world)
 auto settingsOf(const World& world)
 {
     const SettingsScreen& fields = world.settingsFields;
-    return std::tuple(bytesOf(world.chosen), fields.settingsFieldText, fields.settingsActiveField,
+    return std::tuple(world.chosen, fields.settingsFieldText, fields.settingsActiveField,
                       fields.settingsCursor);
 }
 
 auto courseOf(const World& world)
 {
-    return std::tuple(world.courseLetters, bytesOf(world.screens));
+    return std::tuple(world.courseLetters, world.screens);
 }
 
 // Where a box was taken hold of is of no account once it is let go.
@@ -305,7 +306,7 @@ auto viewOf(const World& world)
 {
     View seen = world.seen;
     seen.dragOffsetX = seen.dragOffsetY = 0;
-    return bytesOf(seen);
+    return seen;
 }
 
 unsigned changedParts(const World& before, const World& now)
