@@ -12,6 +12,7 @@ constexpr double SHARE_UNKNOWN = 0.25;
 constexpr int BEYOND_FINISH = LINE_COUNT;
 
 using FollowerPlan = Table<int, RIDER_COUNT>;
+constexpr FollowerPlan NOBODY_FOLLOWS = filled<int, RIDER_COUNT>(-1);
 
 // What a square is worth beside its reach.
 struct Worth {
@@ -23,7 +24,7 @@ struct Worth {
     int near = 99;
     double share = SHARE_UNKNOWN;
     int followCmp = 0; // 1 the followers gain more than with the best square, -1 less
-    FollowerPlan gain = filled<int, RIDER_COUNT>(-1);
+    FollowerPlan gain = NOBODY_FOLLOWS;
 };
 
 int reach12Of(Square at)
@@ -152,12 +153,12 @@ int compareFollowers(const Candidate& candidate, const Worth& worth, const Route
 }
 
 // No rule below could hold: spares most squares the count of riders around them.
-bool isHopeless(const Candidate& candidate, const Worth& worth, const RouteBest& best)
+bool isHopeless(const Candidate& candidate, int sprintCmp, const RouteBest& best)
 {
-    if (best.row == -1 || worth.sprintCmp == 1)
+    if (best.row == -1 || sprintCmp == 1)
         return false;
     const int reach12 = reach12Of(candidate.at);
-    return worth.sprintCmp == -1 ||
+    return sprintCmp == -1 ||
            (reach11Of(candidate.at) <= reach12Of(squareOf(best)) &&
             reach12 < reach12Of(squareOf(best)) && reach12 < reach11Of(squareOf(best)));
 }
@@ -229,11 +230,13 @@ void accept(const Candidate& candidate, const Worth& worth, const RoutePath& pat
 
 void judgeSquare(const Candidate& candidate, const RoutePath& path, RouteBest& best)
 {
-    Worth worth;
-    worth.nextSprint = nextLine(candidate.at.row);
-    worth.sprintCmp = compareSprints(worth.nextSprint, best);
-    if (isHopeless(candidate, worth, best))
+    const int nextSprint = nextLine(candidate.at.row);
+    const int sprintCmp = compareSprints(nextSprint, best);
+    if (isHopeless(candidate, sprintCmp, best))
         return;
+    Worth worth;
+    worth.nextSprint = nextSprint;
+    worth.sprintCmp = sprintCmp;
     countChain(candidate, -1, worth.oppBehind, worth);
     countChain(candidate, 1, worth.oppAhead, worth);
     if (isBigThrow() && candidate.question.simulateFollowers && !race.breakaway) {

@@ -1,6 +1,7 @@
 #include "board/course.h"
 
 #include <algorithm>
+#include <cmath>
 
 CourseGrid course;
 std::string courseText;
@@ -96,13 +97,27 @@ static void markLapEnd(char digit)
         course.lapEndRows[course.lapEndCount++] = course.courseRowCount - 1;
 }
 
-void assembleCourse()
+// A course has up to two hundred pieces, and a rider on his way asks for his at every turn of the
+// road.
+template <typename Piece>
+static void indexPieces(const std::vector<Piece>& pieces,
+                        Table<PieceRange, COURSE_MAX_ROWS>& piecesOfRow)
 {
-    static const CourseGrid EMPTY;
-    const int lastClimbRow = course.lastClimbRow;
-    course = EMPTY;
-    course.lastClimbRow = lastClimbRow;
+    for (int i = 0; i < static_cast<int>(pieces.size()); ++i) {
+        const Piece& piece = pieces[static_cast<std::size_t>(i)];
+        const int first = std::max(0, static_cast<int>(std::floor(piece.rowFrom)));
+        const int last = std::min(COURSE_MAX_ROWS - 1, static_cast<int>(std::floor(piece.rowTo)));
+        for (int row = first; row <= last; ++row) {
+            PieceRange& range = piecesOfRow[row];
+            if (range.end == 0)
+                range.first = i;
+            range.end = i + 1;
+        }
+    }
+}
 
+static void appendSections()
+{
     int laneShift = 0;
     int sprintCount = 0;
     char before = '\0';
@@ -124,6 +139,17 @@ void assembleCourse()
         if ((letter == '2' || letter == '7') && course.finishRow == -1)
             course.lastClimbRow = course.courseRowCount - 1;
     }
+}
+
+void assembleCourse()
+{
+    static const CourseGrid EMPTY;
+    const int lastClimbRow = course.lastClimbRow;
+    course = EMPTY;
+    course.lastClimbRow = lastClimbRow;
+    appendSections();
+    indexPieces(course.courseStraights, course.straightsOfRow);
+    indexPieces(course.courseCurves, course.curvesOfRow);
 }
 
 int firstStartLane()

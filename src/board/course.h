@@ -24,6 +24,12 @@ using Grid = Table2<int, COURSE_MAX_ROWS, COURSE_LANES>;
 // A grid with the same value everywhere.
 Grid gridOf(int value);
 
+// The pieces that may hold a point of a row, first to end - 1; others among them may lie elsewhere.
+struct PieceRange {
+    int first = 0;
+    int end = 0;
+};
+
 struct CourseGrid {
     Grid moveModifier = gridOf(NO_SQUARE);
     Grid terrain = gridOf(TERRAIN_NONE);
@@ -40,6 +46,8 @@ struct CourseGrid {
     Table<int, RIDER_COUNT> riderLapCount{};
     std::vector<StraightPiece> courseStraights;
     std::vector<CurvePiece> courseCurves;
+    Table<PieceRange, COURSE_MAX_ROWS> straightsOfRow{}; // for rows r up to, but not, r + 1
+    Table<PieceRange, COURSE_MAX_ROWS> curvesOfRow{};
     std::vector<LaneBarrier> courseBarriers;
 };
 

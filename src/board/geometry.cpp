@@ -12,8 +12,8 @@ namespace
 constexpr double FULL_TURN = 6.2831853;
 constexpr double QUARTER_TURN = 1.570796325;
 
-// A place on the picture and the direction of travel there, in radians: 0 to the right, pi / 2
-// down.
+// A place on the picture and the direction of travel there, in radians: 0 to
+// the right, pi / 2 down.
 struct Placement {
     BoardPoint at;
     double heading = 0.0;
@@ -86,28 +86,45 @@ Placement placeOn(const CurvePiece& piece, float row, float lane)
 }
 
 template <typename Piece>
-const Piece* findPiece(const std::vector<Piece>& pieces, float row, float lane)
+const Piece* findPiece(const std::vector<Piece>& pieces,
+                       const Table<PieceRange, COURSE_MAX_ROWS>& piecesOfRow, float row, float lane)
 {
-    const auto found = std::ranges::find_if(
-        pieces, [row, lane](const Piece& piece) { return holds(piece, row, lane); });
-    return found == pieces.end() ? nullptr : &*found;
+    if (row < 0.0f || row >= static_cast<float>(COURSE_MAX_ROWS))
+        return nullptr;
+    const PieceRange& range = piecesOfRow[static_cast<int>(row)];
+    const auto end = pieces.begin() + range.end;
+    const auto found =
+        std::find_if(pieces.begin() + range.first, end,
+                     [row, lane](const Piece& piece) { return holds(piece, row, lane); });
+    return found == end ? nullptr : &*found;
 }
 
-// The curve that holds a square, unless a straight piece does: where both overlap that one wins.
+const StraightPiece* findStraight(float row, float lane)
+{
+    return findPiece(course.courseStraights, course.straightsOfRow, row, lane);
+}
+
+const CurvePiece* findCurve(float row, float lane)
+{
+    return findPiece(course.courseCurves, course.curvesOfRow, row, lane);
+}
+
+// The curve that holds a square, unless a straight piece does: where both
+// overlap that one wins.
 const CurvePiece* curveOfSquare(int row, int lane)
 {
     const auto r = static_cast<float>(row);
     const auto l = static_cast<float>(lane);
-    return findPiece(course.courseStraights, r, l) ? nullptr : findPiece(course.courseCurves, r, l);
+    return findStraight(r, l) ? nullptr : findCurve(r, l);
 }
 
 std::optional<Placement> placeOfSquare(int row, int lane)
 {
     const auto r = static_cast<float>(row);
     const auto l = static_cast<float>(lane);
-    if (const StraightPiece* straight = findPiece(course.courseStraights, r, l))
+    if (const StraightPiece* straight = findStraight(r, l))
         return placeOn(*straight, r, l);
-    if (const CurvePiece* curve = findPiece(course.courseCurves, r, l))
+    if (const CurvePiece* curve = findCurve(r, l))
         return placeOn(*curve, curveRowOfSquare(*curve, row, lane), l);
     return std::nullopt;
 }
@@ -121,8 +138,9 @@ bool isRoad(int row, float laneFrom, float laneTo)
     return true;
 }
 
-// A short piece between two rows may count its lanes as those of the next lap: at the end of a lap
-// the road is numbered anew. Such a piece says nothing about a rider of this lap.
+// A short piece between two rows may count its lanes as those of the next lap:
+// at the end of a lap the road is numbered anew. Such a piece says nothing
+// about a rider of this lap.
 template <typename Piece> bool countsLanesOfThisLap(const Piece& piece)
 {
     const int firstRow = static_cast<int>(std::ceil(piece.rowFrom));
@@ -134,11 +152,10 @@ template <typename Piece> bool countsLanesOfThisLap(const Piece& piece)
 
 std::optional<Placement> placeOnPiece(float row, float lane)
 {
-    if (const StraightPiece* straight = findPiece(course.courseStraights, row, lane);
+    if (const StraightPiece* straight = findStraight(row, lane);
         straight && countsLanesOfThisLap(*straight))
         return placeOn(*straight, row, lane);
-    if (const CurvePiece* curve = findPiece(course.courseCurves, row, lane);
-        curve && countsLanesOfThisLap(*curve))
+    if (const CurvePiece* curve = findCurve(row, lane); curve && countsLanesOfThisLap(*curve))
         return placeOn(*curve, row, lane);
     return std::nullopt;
 }
@@ -153,7 +170,8 @@ double headingFromTo(BoardPoint from, BoardPoint to)
     return dy <= 0.0 ? -turn : turn;
 }
 
-// Straight between the two squares of the lane around a point that no piece holds.
+// Straight between the two squares of the lane around a point that no piece
+// holds.
 std::optional<Placement> placeBetweenSquares(float row, float lane)
 {
     const int l = static_cast<int>(std::lround(lane));
@@ -220,8 +238,8 @@ constexpr float SAMPLE_ROWS = 0.5f;
 constexpr float FINEST_ROWS = 0.01f;
 constexpr double SHARPEST_TURN = 0.15; // radians between two points of a way
 
-// Appends a point unless it is the last one again or lies behind it: where two pieces overlap by a
-// unit or two a rider doesn't step back.
+// Appends a point unless it is the last one again or lies behind it: where two
+// pieces overlap by a unit or two a rider doesn't step back.
 void extendWay(std::vector<WayPoint>& way, const Placement& place)
 {
     const WayPoint& last = way.back();
@@ -241,8 +259,8 @@ void closeWay(std::vector<WayPoint>& way, const Placement& end)
     way.push_back({.at = end.at, .heading = end.heading, .distance = last.distance + rest});
 }
 
-// Adds points of the lane between two rows, more where the road bends, none where no piece says how
-// it runs: there the way leads straight on.
+// Adds points of the lane between two rows, more where the road bends, none
+// where no piece says how it runs: there the way leads straight on.
 void followRoad(std::vector<WayPoint>& way, float fromRow, float toRow, float lane)
 {
     const auto place = placeOnPiece(toRow, lane);

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 
 Picture boardPicture{.width = BOARD_PICTURE_WIDTH, .height = BOARD_PICTURE_HEIGHT, .bytes = {}};
 Table<Picture, SECTION_COUNT> sectionPixels;
@@ -32,7 +33,8 @@ struct Box {
     int yMax = 0;
 };
 
-// The road of one section, piece by piece, in the mirrored columns of the pictures.
+// The road of one section, piece by piece, in the mirrored columns of the
+// pictures.
 struct RoadMask {
     std::vector<std::uint8_t> pixels =
         std::vector<std::uint8_t>(BOARD_PICTURE_WIDTH * BOARD_PICTURE_HEIGHT, MASK_OUTSIDE);
@@ -87,8 +89,8 @@ bool hasPassed(float position, int end, float step)
     return step > 0.0f ? position > last : position < last;
 }
 
-// Draws with a pen of five pixels, a plus. The end is told from the x position unless the line is
-// upright.
+// Draws with a pen of five pixels, a plus. The end is told from the x position
+// unless the line is upright.
 void markLine(RoadMask& mask, Pixel from, Pixel to)
 {
     growBox(mask.box, from);
@@ -124,10 +126,11 @@ int countOutlineRuns(const std::uint8_t* pixel, int count, int stride)
     return runs;
 }
 
-// Fills one column or row between each two runs of outline. An odd number of runs means that one is
-// a tangent or a corner: such a line is left to the pass in the other direction. Two ends of a half
-// turn that stand exactly above each other count as two runs too, so that the hollow of such a turn
-// gets a line as wide as the pen.
+// Fills one column or row between each two runs of outline. An odd number of
+// runs means that one is a tangent or a corner: such a line is left to the pass
+// in the other direction. Two ends of a half turn that stand exactly above each
+// other count as two runs too, so that the hollow of such a turn gets a line as
+// wide as the pen.
 void fillLine(std::uint8_t* pixel, int count, int stride)
 {
     const int runs = countOutlineRuns(pixel, count, stride);
@@ -145,7 +148,8 @@ void fillLine(std::uint8_t* pixel, int count, int stride)
     }
 }
 
-// Fills the piece whose outline has been drawn, makes the outline road and starts the next piece.
+// Fills the piece whose outline has been drawn, makes the outline road and
+// starts the next piece.
 void fillOutline(RoadMask& mask)
 {
     const int xMin = std::max(mask.box.xMin - 3, 0);
@@ -176,7 +180,8 @@ void paintCurve(RoadMask& mask, const CurvePiece& piece)
 {
     const float first = std::min(piece.angleFrom, piece.angleTo);
     const float last = std::max(piece.angleFrom, piece.angleTo);
-    // Both sides close to the same corner; the line across the end draws what that leaves open.
+    // Both sides close to the same corner; the line across the end draws what
+    // that leaves open.
     const Pixel end = curvePixel(piece, last, true);
     for (const bool atLaneTo : {false, true}) {
         Pixel before = curvePixel(piece, first, atLaneTo);
@@ -217,6 +222,42 @@ std::size_t pictureSize(int components)
     return static_cast<std::size_t>(BOARD_PICTURE_WIDTH * BOARD_PICTURE_HEIGHT * components);
 }
 
+// By whole runs of pixels: a loop without a question inside takes many bytes at
+// a time.
+void halveOutside(Picture& picture, const RoadMask& mask)
+{
+    const auto components = static_cast<std::size_t>(picture.components);
+    const auto end = mask.pixels.end();
+    const auto isRoad = [](std::uint8_t value) { return value != MASK_OUTSIDE; };
+    for (auto run = mask.pixels.begin(); run != end;) {
+        const auto road = std::find_if(run, end, isRoad);
+        std::uint8_t* byte =
+            picture.bytes.data() + static_cast<std::size_t>(run - mask.pixels.begin()) * components;
+        const auto count = static_cast<std::size_t>(road - run) * components;
+        for (std::size_t i = 0; i < count; ++i)
+            byte[i] = static_cast<std::uint8_t>(byte[i] >> 1);
+        run = std::find(road, end, MASK_OUTSIDE);
+    }
+}
+
+// Most of two pictures of the same board is equal: such blocks are told from
+// the others at once.
+template <std::size_t COMPONENTS>
+void mergePixels(std::vector<std::uint8_t>& target, const std::vector<std::uint8_t>& source)
+{
+    constexpr std::size_t BLOCK = 64 * COMPONENTS;
+    for (std::size_t begin = 0; begin < target.size(); begin += BLOCK) {
+        std::uint8_t* to = target.data() + begin;
+        const std::uint8_t* from = source.data() + begin;
+        const std::size_t count = std::min(BLOCK, target.size() - begin);
+        if (std::memcmp(to, from, count) == 0)
+            continue;
+        for (std::size_t i = 0; i + COMPONENTS <= count; i += COMPONENTS)
+            if (to[i] < from[i])
+                std::memcpy(to + i, from + i, COMPONENTS);
+    }
+}
+
 } // namespace
 
 void paintSectionPicture(Picture& picture, int section)
@@ -234,24 +275,17 @@ void paintSectionPicture(Picture& picture, int section)
     for (const MaskPolygon& polygon : shape.masks)
         paintPolygon(mask, polygon);
 
-    std::uint8_t* byte = picture.bytes.data();
-    for (const std::uint8_t value : mask.pixels) {
-        const int shift = value == MASK_OUTSIDE ? 1 : 0;
-        for (int i = 0; i < picture.components; ++i, ++byte)
-            *byte = static_cast<std::uint8_t>(*byte >> shift);
-    }
+    halveOutside(picture, mask);
 }
 
 void mergeBrightest(Picture& target, const Picture& source)
 {
     if (target.components != source.components || target.bytes.size() != source.bytes.size())
         return;
-    const std::size_t step = static_cast<std::size_t>(target.components);
-    for (std::size_t i = 0; i + step <= target.bytes.size(); i += step) {
-        if (target.bytes[i] < source.bytes[i])
-            std::copy_n(source.bytes.begin() + static_cast<std::ptrdiff_t>(i), step,
-                        target.bytes.begin() + static_cast<std::ptrdiff_t>(i));
-    }
+    if (target.components == 4)
+        mergePixels<4>(target.bytes, source.bytes);
+    else
+        mergePixels<3>(target.bytes, source.bytes);
 }
 
 void paintSection(int section)

@@ -60,16 +60,25 @@ static bool wonCardUsable(int k)
            race.wonCardRider[view.shownTeam][k] == race.currentRider;
 }
 
-static void drawCards()
+static bool usable(int slot)
 {
-    for (int slot = 0; slot < CARD_SLOT_COUNT; ++slot) {
-        if (race.cardUsed[view.shownTeam][slot] != CARD_AVAILABLE)
-            continue;
-        const bool usable =
-            slot < SET_CARD_COUNT ? setCardUsable(slot) : wonCardUsable(slot - SET_CARD_COUNT);
-        const Rect place = cardPlace(slot);
-        drawCard(place.x, place.y, view.shownTeam, slot, usable ? BRIGHT : DIM);
+    return slot < SET_CARD_COUNT ? setCardUsable(slot) : wonCardUsable(slot - SET_CARD_COUNT);
+}
+
+// Slots of the upper row are even, those of the lower one odd.
+static void drawTeamCards()
+{
+    Table<PlacedCard, CARD_SLOT_COUNT> cards{};
+    int count = 0;
+    for (const int row : {0, 1}) {
+        for (int slot = row; slot < CARD_SLOT_COUNT; slot += 2) {
+            if (race.cardUsed[view.shownTeam][slot] != CARD_AVAILABLE)
+                continue;
+            const Rect place = cardPlace(slot);
+            cards[count++] = {place.x, place.y, view.shownTeam, slot, usable(slot) ? BRIGHT : DIM};
+        }
     }
+    drawCards({cards.begin(), static_cast<std::size_t>(count)});
 }
 
 static Colour tabColour(int team, bool selected)
@@ -106,5 +115,5 @@ void drawCardPanel()
     setColour(view.shownTeam == BLACK_TEAM ? BLACK : teamColourDim[view.shownTeam], 0.75f);
     fillRect(panel.x, panel.y, panel.w, panel.h);
     drawTabs();
-    drawCards();
+    drawTeamCards();
 }

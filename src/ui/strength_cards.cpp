@@ -8,7 +8,10 @@
 
 #include <GL/gl.h>
 
+#include <algorithm>
 #include <string>
+
+constexpr Colour cardBlue = {0.0f, 0.0f, 1.0f};
 
 struct CardFace {
     int value = BLUE_CARD;
@@ -43,26 +46,53 @@ static CardFace cardFace(int team, int card)
     return setCardFace(team, card);
 }
 
+static int valueOf(const PlacedCard& card)
+{
+    return cardFace(card.team, card.card).value;
+}
+
+static void drawBlankCard(const PlacedCard& card)
+{
+    glPushMatrix();
+    glTranslatef(card.x, card.y, 0.0f);
+    setColour(valueOf(card) == WHITE_CARD ? WHITE : cardBlue, card.brightness);
+    glCallList(lists.cardOuterList);
+    setColour(cardBlue, card.brightness);
+    glCallList(lists.cardFrameList);
+    setColour(WHITE, card.brightness);
+    glCallList(lists.cardInnerList);
+    glPopMatrix();
+}
+
+static void drawCardRider(const PlacedCard& card)
+{
+    setColour(cardBlue, card.brightness);
+    drawText(card.x + layout.cardW * 0.5f, card.y + layout.cardH * 0.35f, ALIGN_CENTRE,
+             cardFace(card.team, card.card).rider);
+}
+
+static void drawCardValue(const PlacedCard& card)
+{
+    const bool white = valueOf(card) == WHITE_CARD;
+    setColour(white ? cardBlue : WHITE, card.brightness);
+    drawText(card.x + layout.cardW * 0.5f, card.y + layout.cardH * 0.85f, ALIGN_CENTRE,
+             white ? "5" : "6");
+}
+
+void drawCards(std::span<const PlacedCard> cards)
+{
+    std::ranges::for_each(cards, drawBlankCard);
+    std::ranges::for_each(cards, drawCardRider);
+    for (const bool white : {false, true})
+        for (const PlacedCard& card : cards)
+            if ((valueOf(card) == WHITE_CARD) == white)
+                drawCardValue(card);
+}
+
 void drawCard(float x, float y, int team, int card, float brightness)
 {
-    constexpr Colour cardBlue = {0.0f, 0.0f, 1.0f};
-    const CardFace face = cardFace(team, card);
-    const bool white = face.value == WHITE_CARD;
-
-    glPushMatrix();
-    glTranslatef(x, y, 0.0f);
-    setColour(white ? WHITE : cardBlue, brightness);
-    glCallList(lists.cardOuterList);
-    setColour(cardBlue, brightness);
-    glCallList(lists.cardFrameList);
-    setColour(WHITE, brightness);
-    glCallList(lists.cardInnerList);
-
-    setColour(cardBlue, brightness);
-    drawText(layout.cardW * 0.5f, layout.cardH * 0.35f, ALIGN_CENTRE, face.rider);
-    setColour(white ? cardBlue : WHITE, brightness);
-    drawText(layout.cardW * 0.5f, layout.cardH * 0.85f, ALIGN_CENTRE, white ? "5" : "6");
-    glPopMatrix();
+    const PlacedCard one = {x, y, team, card, brightness};
+    drawCards({&one, 1});
 }
 
 struct Pip {
