@@ -2,9 +2,18 @@
 
 #include <algorithm>
 #include <bit>
+#include <cerrno>
+#include <charconv>
+#include <csignal>
+#include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
+
+// What is being written goes by this name until it is whole: hidden, no race on the list, and with
+// the number of the process, so that two games in one folder keep out of each other's way.
+static constexpr std::string_view TEMPORARY_PREFIX = ".gravelon-";
+static constexpr std::string_view TEMPORARY_SUFFIX = ".new";
 
 static std::uint64_t takeNumber(ByteReader& reader, std::size_t size)
 {
@@ -136,17 +145,137 @@ bool readWholeFile(const char* fileName, std::size_t maxSize, std::vector<std::u
     return !failed;
 }
 
-bool writeWholeFile(const char* fileName, std::span<const std::uint8_t> bytes)
+// Writes everything, however often the system is interrupted or takes only a part.
+static bool writeAll(int file, std::span<const std::uint8_t> bytes)
 {
-    const int file = openRegular(fileName, O_WRONLY | O_CREAT);
+    while (!bytes.empty()) {
+        const ssize_t written = write(file, bytes.data(), bytes.size());
+        if (written == -1 && errno == EINTR)
+            continue;
+        if (written <= 0)
+            return false;
+        bytes = bytes.subspan(static_cast<std::size_t>(written));
+    }
+    return true;
+}
+
+static bool flush(int file)
+{
+    int result = fsync(file);
+    while (result == -1 && errno == EINTR)
+        result = fsync(file);
+    return result == 0;
+}
+
+static int openFolder()
+{
+    return open(".", O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+}
+
+// A new or changed name lasts only once its folder has been flushed. Some file systems of networks
+// know no such thing, and say so by EINVAL.
+static bool flushAndCloseFolder(int folder)
+{
+    const bool flushed = flush(folder) || errno == EINVAL;
+    return close(folder) == 0 && flushed;
+}
+
+static std::string temporaryName()
+{
+    return std::string(TEMPORARY_PREFIX) + std::to_string(getpid()) + std::string(TEMPORARY_SUFFIX);
+}
+
+// Whether a file of this name was left behind by a game that was killed while it wrote: nobody has
+// its number any more, or we have, who aren't writing yet.
+static bool isLeftover(std::string_view name)
+{
+    if (!name.starts_with(TEMPORARY_PREFIX) || !name.ends_with(TEMPORARY_SUFFIX))
+        return false;
+    name.remove_prefix(TEMPORARY_PREFIX.size());
+    name.remove_suffix(TEMPORARY_SUFFIX.size());
+    pid_t process = 0;
+    const auto [end, error] = std::from_chars(name.data(), name.data() + name.size(), process);
+    if (error != std::errc{} || end != name.data() + name.size() || process <= 0)
+        return false;
+    return process == getpid() || (kill(process, 0) == -1 && errno == ESRCH);
+}
+
+static void removeLeftovers()
+{
+    DIR* folder = opendir(".");
+    if (!folder)
+        return;
+    while (const dirent* entry = readdir(folder))
+        if (isLeftover(entry->d_name))
+            unlink(entry->d_name);
+    closedir(folder);
+}
+
+// A link is replaced itself and not what it leads to, but one that leads to a directory or a pipe
+// is no file of ours. A file protected against writing stays.
+static bool mayReplace(const char* fileName)
+{
+    struct stat status;
+    if (stat(fileName, &status) != 0)
+        return errno == ENOENT;
+    return S_ISREG(status.st_mode) && access(fileName, W_OK) == 0;
+}
+
+static bool writeNewFile(const char* fileName, std::span<const std::uint8_t> bytes)
+{
+    const int file = open(fileName, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0666);
     if (file == -1)
         return false;
-    bool good = ftruncate(file, 0) == 0;
-    while (good && !bytes.empty()) {
-        const ssize_t written = write(file, bytes.data(), bytes.size());
-        good = written > 0;
-        if (good)
-            bytes = bytes.subspan(static_cast<std::size_t>(written));
+    const bool written = writeAll(file, bytes) && flush(file);
+    return close(file) == 0 && written;
+}
+
+bool writeWholeFile(const char* fileName, std::span<const std::uint8_t> bytes)
+{
+    if (!mayReplace(fileName))
+        return false;
+    removeLeftovers();
+    const int folder = openFolder();
+    if (folder == -1)
+        return false;
+    const std::string temporary = temporaryName();
+    if (!writeNewFile(temporary.c_str(), bytes) || rename(temporary.c_str(), fileName) != 0) {
+        unlink(temporary.c_str());
+        close(folder);
+        return false;
     }
+    return flushAndCloseFolder(folder);
+}
+
+// The size of the records in a file that are whole; -1 if it can't be told.
+static off_t wholeRecordsSize(int file, std::size_t recordSize)
+{
+    struct stat status;
+    if (fstat(file, &status) != 0)
+        return -1;
+    return status.st_size - status.st_size % static_cast<off_t>(recordSize);
+}
+
+static bool cutTo(int file, off_t size)
+{
+    return ftruncate(file, size) == 0;
+}
+
+static bool flushFolder()
+{
+    const int folder = openFolder();
+    return folder != -1 && flushAndCloseFolder(folder);
+}
+
+bool appendRecord(const char* fileName, std::span<const std::uint8_t> record)
+{
+    const int file = openRegular(fileName, O_WRONLY | O_CREAT | O_APPEND);
+    if (file == -1)
+        return false;
+    const off_t size = wholeRecordsSize(file, record.size());
+    const bool good = size != -1 && cutTo(file, size) && writeAll(file, record) && flush(file) &&
+                      (size > 0 || flushFolder());
+    if (!good && size != -1)
+        cutTo(file, size);
     return close(file) == 0 && good;
 }

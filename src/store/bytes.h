@@ -42,6 +42,14 @@ std::FILE* openForReading(const char* fileName);
 // Reads a file into bytes, up to maxSize of it. False and no bytes if it can't be read.
 bool readWholeFile(const char* fileName, std::size_t maxSize, std::vector<std::uint8_t>& bytes);
 
-// Replaces a file. False if it can't be opened or written whole, or if something other than a
-// regular file has its name.
+// Replaces a file of the current folder. What is written has another name until it has reached the
+// disk whole, so that whoever reads the file, even after a crash, finds the old one or the new one.
+// False if any step of that fails, or if something other than a regular file has the name; nothing
+// but the old file is there then, unless only the very last step failed.
 bool writeWholeFile(const char* fileName, std::span<const std::uint8_t> bytes);
+
+// Appends a record to a file of the current folder that is made of records of this one size, and
+// sees that it reaches the disk. A torn record at the end, left by a crash, is cut first. False if
+// any step fails, or if something other than a regular file has the name; the record is cut again
+// then.
+bool appendRecord(const char* fileName, std::span<const std::uint8_t> record);

@@ -4,11 +4,7 @@
 #include "board/designer.h"
 #include "store/bytes.h"
 
-#include <sys/stat.h>
-
 #include <cstdio>
-#include <filesystem>
-#include <system_error>
 #include <vector>
 
 static constexpr const char* FILE_NAME = "courses";
@@ -55,34 +51,10 @@ std::string readSavedCourse(int index)
     return isFinishedDesign(text) ? text : std::string{};
 }
 
-// Nothing but a plain file is written to: a pipe would wait for a reader that may never come.
-static bool mayAppend()
-{
-    struct stat info {
-    };
-    return stat(FILE_NAME, &info) != 0 || S_ISREG(info.st_mode);
-}
-
-// A record that was only half written, by a full disk or a crash, would spoil all behind it.
-static void cutTornRecord()
-{
-    std::error_code none;
-    const auto size = std::filesystem::file_size(FILE_NAME, none);
-    if (!none && size % RECORD_SIZE != 0)
-        std::filesystem::resize_file(FILE_NAME, size - size % RECORD_SIZE, none);
-}
-
 bool saveDesign()
 {
     std::vector<std::uint8_t> record;
     putText(record, RECORD_NAME, NAME_SIZE);
     putText(record, courseText, TEXT_SIZE);
-    if (!mayAppend())
-        return false;
-    cutTornRecord();
-    std::FILE* file = std::fopen(FILE_NAME, "ab");
-    if (!file)
-        return false;
-    const bool written = std::fwrite(record.data(), 1, record.size(), file) == record.size();
-    return std::fclose(file) == 0 && written;
+    return appendRecord(FILE_NAME, record);
 }

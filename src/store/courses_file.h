@@ -12,5 +12,5 @@ int countSavedCourses();
 // is no such record or if its text is no course.
 std::string readSavedCourse(int index);
 
-// Appends courseText as a record. False if the file can't be opened or written.
+// Appends courseText as a record. False if that fails at any point; the file is as it was then.
 bool saveDesign();
