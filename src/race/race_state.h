@@ -25,6 +25,7 @@ constexpr int SPRINT_COUNT = 3;
 constexpr int SPRINT_PLACES = 3;
 constexpr int FINISH_SLOT = SPRINT_COUNT * SPRINT_PLACES; // slot of the finish's first place
 constexpr int NAME_LENGTH_MAX = 12;
+constexpr int PACKED_COURSE_SIZE = 14; // bytes for the 28 characters of a course
 
 constexpr int CARD_AVAILABLE = 0;
 constexpr int CARD_SPENT = 1;
@@ -97,20 +98,29 @@ struct RaceState {
     Table<int, RIDER_COUNT> dopingNumber{};
     Table<int, RESULT_SLOT_COUNT> resultSlots{}; // a rider or -1, see scoring
     int sprintWinner = -1;
+
+    // The doping control at the end of the stage.
+    Table<int, 2> dopingDraw{}; // the numbers drawn, 1 to 6; 0 before
+    int counterDie = 0;         // the die of the countercheck in hand, 1 to 6; 0 before
+    int anyDoping = 0;          // whether the draw caught anybody
 };
 
 // One finished stage of a race of several stages.
 struct StageRecord {
-    std::string courseText;
+    Table<std::uint8_t, PACKED_COURSE_SIZE>
+        course{}; // packed as race files hold it; nothing reads it
     Table<int, RESULT_SLOT_COUNT> slots{};
 };
 
 // What lasts from race to race. isHuman lasts too and stands on the riders.
 struct RaceSetup {
     Table<std::string, TEAM_COUNT> teamName; // Latin-1, at most 12 characters
-    bool eventCardsOn = false;               // the cards themselves are yet to come
-    bool multiStage = false;                 // race files are yet to come
-    std::string raceName;                    // Latin-1, at most 12 characters
+    bool eventCardsOn = true;
+    bool multiStage = true;
+    std::string raceName;          // Latin-1, at most 12 characters
+    std::string raceFileName;      // of the race chosen, with ".race"; empty without one
+    std::string raceBaseName;      // the same without the extension
+    std::string standingsFileName; // what "Export" writes
     std::vector<StageRecord> raceStages;
 };
 

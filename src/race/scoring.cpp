@@ -4,6 +4,7 @@
 #include "app/host.h"
 #include "app/view.h"
 #include "board/course.h"
+#include "store/race_file.h"
 
 static constexpr int FINISH_LINE = SPRINT_COUNT;
 
@@ -79,13 +80,11 @@ Table<int, TEAM_COUNT> teamOrder(const Table<int, TEAM_COUNT>& sums)
     return order;
 }
 
-static void appendStage()
+// The stage stays in memory whatever comes of it, so that the next write holds it.
+static void saveRace()
 {
-    StageRecord stage{.courseText = courseText, .slots = race.resultSlots};
-    for (int& rider : stage.slots)
-        if (rider != -1 && race.riders[rider].disqualified)
-            rider = -1;
-    raceSetup.raceStages.push_back(stage);
+    gameState = writeRace(raceSetup.raceFileName) ? STATE_FINAL_SCORECARD : STATE_SAVE_FAILED;
+    redrawNow();
 }
 
 void closeStage()
@@ -94,7 +93,23 @@ void closeStage()
     gameState = STATE_FINAL_SCORECARD;
     view.scorecardGeneral = false;
     view.scorecardStage = static_cast<int>(raceSetup.raceStages.size());
-    if (raceSetup.multiStage)
+    if (raceSetup.multiStage) {
         appendStage();
+        saveRace();
+    }
+    redrawNow();
+}
+
+void retrySave()
+{
+    if (gameState == STATE_SAVE_FAILED)
+        saveRace();
+}
+
+void abortSave()
+{
+    if (gameState != STATE_SAVE_FAILED)
+        return;
+    gameState = STATE_FINAL_SCORECARD;
     redrawNow();
 }

@@ -13,10 +13,11 @@ static bool onBoard(int rider)
     return record.row != -1 && !record.offBoard && !record.finished;
 }
 
-// The rider on turn is off the grid while he moves, a follower while he thinks.
+// The rider on turn is off the grid while he moves, a follower while he thinks, and whoever drew a
+// crash while its victims answer.
 static bool mayBeLifted(int rider)
 {
-    return rider == race.currentRider || rider == race.followerRider;
+    return rider == race.currentRider || rider == race.followerRider || rider == race.eventRider;
 }
 
 static std::string riderFault(int rider)
@@ -65,7 +66,7 @@ static std::string placesFault(int line, int places)
         }
         if (rider < 0 || rider >= RIDER_COUNT || seen[rider])
             return "a place holds nobody, or somebody twice";
-        if (gap)
+        if (gap && !race.anyDoping)
             return about(rider, "took a place behind an empty one");
         seen[rider] = true;
     }

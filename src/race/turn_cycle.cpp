@@ -7,8 +7,8 @@
 #include "board/course.h"
 #include "board/geometry.h"
 #include "board/rider_motion.h"
+#include "race/doping.h"
 #include "race/race_state.h"
-#include "race/scoring.h"
 
 #include <algorithm>
 
@@ -174,7 +174,7 @@ void nextTurn()
     chooseNextRider();
     // Without a rider the race is over, also if one should be left over past the finish.
     if (race.currentRider == -1)
-        closeStage();
+        startDopingControl();
     else
         beginTurn();
 }

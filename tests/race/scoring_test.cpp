@@ -3,10 +3,13 @@
 #include "app/game_state.h"
 #include "app/view.h"
 #include "board/course.h"
+#include "support/own_folder.h"
 #include "support/races.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
+
+#include <filesystem>
 
 namespace
 {
@@ -103,8 +106,8 @@ TEST(Points, OfTheRaceAreThoseOfTheStagesEnded)
 {
     setUpRace(ONE_SPRINT, {});
     raceSetup.raceStages = {
-        {"64S5F12", places({{0, 5}, {FINISH_SLOT, 0}})}, // rider 5 didn't finish: no sprint either
-        {"64S5F12", places({{0, 5}, {FINISH_SLOT, 5}, {FINISH_SLOT + 1, 0}})}};
+        {{}, places({{0, 5}, {FINISH_SLOT, 0}})}, // rider 5 didn't finish: no sprint either
+        {{}, places({{0, 5}, {FINISH_SLOT, 5}, {FINISH_SLOT + 1, 0}})}};
     race.resultSlots = places({{FINISH_SLOT, 12}});
     const GeneralPoints sums = generalPoints();
     EXPECT_EQ(sums.rider[0], 50 + 40);
@@ -118,10 +121,12 @@ TEST(Points, OnEqualSumsTheLowerTeamStandsHigher)
     EXPECT_EQ(teamOrder({0, 0, 0, 0}), (Sums{0, 1, 2, 3}));
 }
 
-TEST(CloseStage, AStageOfSeveralIsAddedWithoutTheDisqualified)
+TEST(CloseStage, AStageOfSeveralIsAddedWithoutTheDisqualifiedAndWritten)
 {
+    const OwnFolder folder;
     setUpRace(ONE_SPRINT, {});
     raceSetup.multiStage = true;
+    raceSetup.raceFileName = "Tour.race";
     raceSetup.raceStages.resize(2);
     view.scorecardGeneral = true;
     race.resultSlots = places({{FINISH_SLOT, 5}, {FINISH_SLOT + 1, 6}});
@@ -130,12 +135,42 @@ TEST(CloseStage, AStageOfSeveralIsAddedWithoutTheDisqualified)
     EXPECT_EQ(gameState, STATE_FINAL_SCORECARD);
     EXPECT_EQ(returnState, STATE_RACE_CLOSED);
     ASSERT_EQ(raceSetup.raceStages.size(), 3u);
-    EXPECT_EQ(raceSetup.raceStages[2].courseText, ONE_SPRINT);
     EXPECT_EQ(raceSetup.raceStages[2].slots, places({{FINISH_SLOT + 1, 6}})); // nobody moves up
     EXPECT_EQ(view.scorecardStage, 2);
     EXPECT_FALSE(view.scorecardGeneral);
+    EXPECT_EQ(std::filesystem::file_size("Tour.race"), 57u + 3 * 116);
+}
 
-    raceSetup.multiStage = false;
+TEST(CloseStage, ARaceThatCantBeWrittenIsAskedAboutAndStaysInMemory)
+{
+    const OwnFolder folder;
+    setUpRace(ONE_SPRINT, {});
+    raceSetup.multiStage = true;
+    raceSetup.raceFileName = "Tour.race";
+    std::filesystem::create_directory("Tour.race"); // in the way
     closeStage();
-    EXPECT_EQ(raceSetup.raceStages.size(), 3u);
+    EXPECT_EQ(gameState, STATE_SAVE_FAILED);
+    retrySave();
+    EXPECT_EQ(gameState, STATE_SAVE_FAILED);
+    EXPECT_EQ(raceSetup.raceStages.size(), 1u);
+
+    std::filesystem::remove("Tour.race");
+    retrySave();
+    EXPECT_EQ(gameState, STATE_FINAL_SCORECARD);
+    EXPECT_EQ(returnState, STATE_RACE_CLOSED);
+    EXPECT_EQ(std::filesystem::file_size("Tour.race"), 57u + 116);
+
+    gameState = STATE_SAVE_FAILED;
+    abortSave();
+    EXPECT_EQ(gameState, STATE_FINAL_SCORECARD);
+}
+
+TEST(CloseStage, ASingleStageLeavesNoRecordAndNoFile)
+{
+    const OwnFolder folder;
+    setUpRace(ONE_SPRINT, {});
+    closeStage();
+    EXPECT_EQ(gameState, STATE_FINAL_SCORECARD);
+    EXPECT_TRUE(raceSetup.raceStages.empty());
+    EXPECT_TRUE(std::filesystem::is_empty("."));
 }

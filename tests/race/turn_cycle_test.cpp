@@ -177,11 +177,12 @@ TEST(StageEnd, ComesWhenNobodyIsLeftToPlay)
     setUpPersonsRace(ONE_LAP, {{0, 116, 4, MOVED}});
     race.currentRider = 0;
     nextTurn();
-    EXPECT_EQ(gameState, STATE_FINAL_SCORECARD);
+    EXPECT_EQ(gameState, STATE_DOPING_DRAW); // at once, with or without doping
+    EXPECT_EQ(race.currentRider, -1);
 
     // Past the finish, but never taken off: he can't hold up the stage.
     setUpPersonsRace(ONE_LAP, {{0, 116, 4, MOVED}, {1, 116, 6, MOVED}});
     race.currentRider = 0;
     nextTurn();
-    EXPECT_EQ(gameState, STATE_FINAL_SCORECARD);
+    EXPECT_EQ(gameState, STATE_DOPING_DRAW);
 }
