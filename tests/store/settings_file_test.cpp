@@ -3,6 +3,8 @@
 #include "app/settings.h"
 #include "race/race_state.h"
 #include "store/bytes.h"
+#include "store/golden_files.h"
+#include "support/own_folder.h"
 
 #include <cmath>
 #include <cstdlib>
@@ -16,26 +18,17 @@ namespace
 
 using Bytes = std::vector<std::uint8_t>;
 
-// Stands in an empty directory of its own.
+// Stands in an empty folder of its own.
 class SettingsFile : public testing::Test
 {
 protected:
-    void SetUp() override
-    {
-        char name[] = "/tmp/settingsXXXXXX";
-        folder = mkdtemp(name);
-        before = std::filesystem::current_path();
-        std::filesystem::current_path(folder);
-    }
     void TearDown() override
     {
-        std::filesystem::current_path(before);
-        std::filesystem::remove_all(folder);
         settings = {};
         raceSetup = {};
     }
 
-    std::filesystem::path folder, before;
+    OwnFolder folder;
 };
 
 // A sound file whose fields a test changes before it is read.
@@ -66,7 +59,7 @@ Bytes bytesOf(const Fields& fields)
 
 void readBytes(const Bytes& bytes)
 {
-    ASSERT_TRUE(writeWholeFile("settings", bytes));
+    putBytes("settings", std::string(bytes.begin(), bytes.end()));
     readSettings();
 }
 
@@ -111,15 +104,7 @@ TEST_F(SettingsFile, KeepsEveryFieldInItsPlace)
     settings = {LANGUAGE_FRENCH, 0, 999, 12.5f, 7, 4.0, 3.0};
     raceSetup.teamName = {"Twelve chars", "Z\xFCrich", "", "D"};
     ASSERT_TRUE(writeSettings());
-    Bytes bytes;
-    ASSERT_TRUE(readWholeFile("settings", 1000, bytes));
-    ASSERT_EQ(bytes.size(), 82u);
-    const std::uint8_t head[] = {2, 0, 0xE7, 3, 0, 0,    0,    0, 0x48, 0x41, 7, 0, 0, 0, 0,
-                                 0, 0, 0,    0, 0, 0x10, 0x40, 0, 0,    0,    0, 0, 0, 8, 0x40};
-    EXPECT_TRUE(std::equal(std::begin(head), std::end(head), bytes.begin()));
-    EXPECT_EQ(bytes[30 + 11], 's');
-    EXPECT_EQ(bytes[30 + 12], 0);
-    EXPECT_EQ(bytes[30 + 13 + 1], 0xFC);
+    EXPECT_EQ(bytesOfFile("settings"), goldenBytes("settings"));
 
     const Settings written = settings;
     const auto names = raceSetup.teamName;

@@ -1,0 +1,212 @@
+#include "store/race_file.h"
+
+#include "board/course.h"
+#include "store/bytes.h"
+#include "store/golden_files.h"
+#include "support/own_folder.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <chrono>
+#include <set>
+#include <sys/stat.h>
+#include <thread>
+
+namespace
+{
+
+namespace fs = std::filesystem;
+
+constexpr std::size_t HEAD_SIZE = 57;
+constexpr std::size_t STAGE_SIZE = 116;
+
+void forgetRace()
+{
+    race = {};
+    raceSetup = {};
+    racePreview = {};
+    courseText.clear();
+}
+
+// Each test in an empty folder, with no race in memory.
+class RaceFile : public testing::Test
+{
+protected:
+    void SetUp() override { forgetRace(); }
+    void TearDown() override { forgetRace(); }
+
+    OwnFolder folder;
+    const std::string golden = goldenBytes("two_stages.race");
+};
+
+// clang-format off
+//                                                       sprints                              finish
+constexpr Table<int, RESULT_SLOT_COUNT> FIRST_STAGE  = { 0, 5, 10, 15, -1, 3,  -1, -1, -1,    4, 0, 8, 12, 5, 1, 9, 13, 6, 2, -1, 10, 14, 7, 3, -1};
+constexpr Table<int, RESULT_SLOT_COUNT> SECOND_STAGE = {15, 9,  1,  9, 15, 14,  0,  4,  8,   15, 14, 13, 12, 11, 10, 9, 8, 7, 6, 5, 4, 3, 2, 1, 0};
+// clang-format on
+
+// The first slots of the first stage after these have been in its file.
+std::vector<int> slotsRead(std::string bytes, int first, const std::vector<std::int32_t>& riders)
+{
+    std::vector<std::uint8_t> slots;
+    for (const std::int32_t rider : riders)
+        putInt32(slots, rider);
+    const std::size_t at = HEAD_SIZE + 16 + 4 * static_cast<std::size_t>(first);
+    std::copy(slots.begin(), slots.end(), bytes.begin() + static_cast<std::ptrdiff_t>(at));
+    putBytes("r.race", bytes);
+    readRace("r.race");
+    const int* const read = raceSetup.raceStages.at(0).slots.begin() + first;
+    return {read, read + riders.size()};
+}
+
+} // namespace
+
+TEST_F(RaceFile, IsWrittenAsTold)
+{
+    raceSetup.teamName = {"Lions", "Z\xFCrich", "A - 9 z", "Twelve chars"};
+    for (const int team : {0, 3})
+        race.riders[team * RIDERS_PER_TEAM].isHuman = 1;
+    courseText = "01S23S4S5F12";
+    race.resultSlots = FIRST_STAGE;
+    appendStage();
+    courseText = "67S8F12";
+    race.resultSlots = SECOND_STAGE;
+    race.riders[9].disqualified = 1;
+    appendStage();
+    ASSERT_TRUE(writeRace("Tour - 1.race"));
+    EXPECT_EQ(bytesOfFile("Tour - 1.race"), golden);
+}
+
+TEST_F(RaceFile, IsReadIntoTheRaceInMemory)
+{
+    putBytes("r.race", golden);
+    raceSetup.eventCardsOn = false;
+    raceSetup.raceStages.resize(7);
+    race.riders[5].isHuman = 1;
+    readRace("r.race");
+    EXPECT_TRUE(raceSetup.eventCardsOn);
+    EXPECT_EQ(raceSetup.teamName[1], "Z\xFCrich");
+    for (int rider = 0; rider < RIDER_COUNT; ++rider)
+        EXPECT_EQ(race.riders[rider].isHuman, rider < 4 || rider >= 12) << rider;
+    ASSERT_EQ(raceSetup.raceStages.size(), 2u);
+    EXPECT_EQ(raceSetup.raceStages[0].slots, FIRST_STAGE);
+    EXPECT_EQ(racePreview.teamName[0], "");
+    ASSERT_TRUE(writeRace("again.race"));
+    EXPECT_EQ(bytesOfFile("again.race"), golden);
+}
+
+TEST_F(RaceFile, APreviewLeavesTheTeamsInMemoryAlone)
+{
+    putBytes("r.race", golden);
+    raceSetup.teamName[0] = "Mine";
+    raceSetup.eventCardsOn = false;
+    readRacePreview("r.race");
+    EXPECT_EQ(raceSetup.teamName[0], "Mine");
+    EXPECT_FALSE(raceSetup.eventCardsOn);
+    EXPECT_EQ(race.riders[0].isHuman, 0);
+    EXPECT_TRUE(racePreview.eventCardsOn);
+    EXPECT_EQ(racePreview.teamName[0], "Lions");
+    EXPECT_EQ(racePreview.isHuman, (Table<std::uint8_t, TEAM_COUNT>{1, 0, 0, 1}));
+    EXPECT_EQ(raceSetup.raceStages.size(), 2u);
+}
+
+TEST_F(RaceFile, OddBytesAreMendedAsTheyAreRead)
+{
+    std::string bytes = golden;
+    bytes[0] = '\x80';
+    bytes.replace(1, 13, "endless\nname!");
+    bytes[14] = 'x';
+    EXPECT_EQ(slotsRead(bytes, FINISH_SLOT, {3, 16, -2, 3, 0x7FFFFFFF, 256, 0, 15, 0}),
+              (std::vector{3, -1, -1, -1, -1, -1, 0, 15, -1}));
+    EXPECT_EQ(slotsRead(bytes, 0, {7, 7, 2, 7, 2, 7}), (std::vector{7, -1, 2, 7, 2, -1}));
+    EXPECT_EQ(raceSetup.teamName[0], "endlessname");
+    ASSERT_TRUE(writeRace("r.race"));
+    EXPECT_EQ(bytesOfFile("r.race")[0], 1);
+    EXPECT_EQ(bytesOfFile("r.race")[14], 1);
+}
+
+TEST_F(RaceFile, CutShortItKeepsWhatIsWhole)
+{
+    for (std::size_t size = 0; size <= golden.size(); ++size) {
+        forgetRace();
+        raceSetup.eventCardsOn = false;
+        raceSetup.teamName = {"a", "b", "c", "d"};
+        raceSetup.raceStages.resize(3);
+        putBytes("r.race", golden.substr(0, size));
+        readRace("r.race");
+        EXPECT_EQ(raceSetup.eventCardsOn, size >= 1) << size;
+        EXPECT_EQ(raceSetup.teamName[0], size >= 14 ? "Lions" : "a") << size;
+        EXPECT_EQ(race.riders[2].isHuman, size >= 15) << size;
+        EXPECT_EQ(raceSetup.teamName[3], size >= 56 ? "Twelve chars" : "d") << size;
+        const std::size_t stages = size < HEAD_SIZE ? 0 : (size - HEAD_SIZE) / STAGE_SIZE;
+        EXPECT_EQ(raceSetup.raceStages.size(), stages) << size;
+    }
+}
+
+TEST_F(RaceFile, WhatIsNoFileIsNoRace)
+{
+    fs::create_directory("folder.race");
+    ASSERT_EQ(mkfifo("pipe.race", 0600), 0);
+    fs::create_symlink("self.race", "self.race");
+    fs::create_symlink("/dev/zero", "device.race");
+    raceSetup.teamName[0] = "Mine";
+    for (const char* name :
+         {"folder.race", "pipe.race", "self.race", "device.race", "none.race", ""}) {
+        raceSetup.raceStages.resize(1);
+        readRace(name);
+        EXPECT_EQ(raceSetup.teamName[0], "Mine") << name;
+        EXPECT_TRUE(raceSetup.raceStages.empty()) << name;
+    }
+    EXPECT_TRUE(listRaceFiles().empty());
+}
+
+TEST_F(RaceFile, TheListHoldsFilesWithTheExtension)
+{
+    std::multiset<std::string> races = {" .race",      "%n%s.race",       "-rf.race",     "a.race",
+                                        "a.race.race", "two\nlines.race", "\xFF\xFE.race"};
+    for (const std::string& name : races)
+        putBytes(name, "x");
+    for (const char* name : {".race", ".hidden.race", "a.Race", "race", "a.race~", "arace"})
+        putBytes(name, "x");
+    fs::create_symlink("a.race", "link.race");
+    fs::create_symlink("nowhere", "dangling.race");
+    races.insert("link.race");
+    const std::vector<std::string> listed = listRaceFiles();
+    EXPECT_EQ(std::multiset<std::string>(listed.begin(), listed.end()), races);
+    raceSetup.eventCardsOn = false;
+    readRace("-rf.race");
+    EXPECT_TRUE(raceSetup.eventCardsOn);
+}
+
+TEST_F(RaceFile, TheListGrowsStaleWhenTheFolderChanges)
+{
+    const auto listOnceSettled = [] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(100));
+        listRaceFiles();
+    };
+    listRaceFiles();
+    EXPECT_TRUE(raceListStale()); // the folder was made too shortly before
+    listOnceSettled();
+    EXPECT_FALSE(raceListStale());
+    putBytes("a.race", "x");
+    EXPECT_TRUE(raceListStale());
+    listOnceSettled();
+    EXPECT_FALSE(raceListStale());
+    fs::remove("a.race");
+    EXPECT_TRUE(raceListStale());
+}
+
+TEST_F(RaceFile, ManyFilesAndAHugeOneTakeNoTime)
+{
+    putBytes("0.race", golden);
+    fs::resize_file("0.race", 100'000'000);
+    for (int i = 1; i < 10000; ++i)
+        fs::create_hard_link("0.race", std::to_string(i) + ".race");
+    const auto before = std::chrono::steady_clock::now();
+    EXPECT_EQ(listRaceFiles().size(), 10000u);
+    readRace("0.race");
+    EXPECT_LT(std::chrono::steady_clock::now() - before, std::chrono::seconds(1));
+    EXPECT_EQ(raceSetup.raceStages.size(), 9999u);
+    EXPECT_EQ(raceSetup.raceStages[0].slots, FIRST_STAGE);
+}
