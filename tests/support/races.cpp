@@ -5,6 +5,9 @@
 #include "app/view.h"
 #include "board/course.h"
 #include "board/rider_motion.h"
+#include "race/doping.h"
+#include "race/event_deck.h"
+#include "race/events.h"
 #include "race/movement.h"
 #include "race/placing.h"
 #include "race/start.h"
@@ -18,8 +21,10 @@ static void resetProgram()
     installFakeHost();
     settings = {};
     raceSetup = {};
+    raceSetup.eventCardsOn = raceSetup.multiStage = false;
     course = {};
     race = {};
+    deck = {};
     view = {};
     motion = {};
 }
@@ -87,6 +92,15 @@ bool advanceComputerRace()
         return true;
     case STATE_NO_MOVE:
         leaveRound();
+        return true;
+    case STATE_EVENT_CARD:
+        applyEventCard();
+        return true;
+    case STATE_EVENT_NO_CARD:
+        goOnWithoutEventCard();
+        return true;
+    case STATE_DOPING_DRAW:
+        afterDopingDraw();
         return true;
     case STATE_ANIMATE:
         return runTick();

@@ -19,7 +19,7 @@ struct Placed {
 // computer teams. Riders that are not named have finished long ago.
 void setUpRace(std::string_view text, std::initializer_list<Placed> placed);
 
-// A race with all options at their start values, seeded; it waits for the first "Next".
+// A single stage without event cards, seeded; it waits for the first "Next".
 void startSeededRace(std::string_view text, unsigned seed);
 
 // Makes a team's riders those of a person.

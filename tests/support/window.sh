@@ -50,6 +50,7 @@ findControls()
             put("quit", side + v * 0.04, h - 20 - buttonH * 0.6)
             put("setupOk", v * 0.5, h * 0.68 + buttonH * 0.5)
             put("setupOkEdge", v * 0.5 - buttonW * 0.4, h * 0.68 + buttonH * 0.5)
+            put("singleStage", v * 0.4, h * 0.61)
             put("firstCourse", v * 0.5 - v * 0.38 * 0.6, h * 0.17 + v * 0.05)
             put("courseFrame", v * 0.5 - v * 0.38 * 1.1 - 5, h * 0.25)
             put("throw", throwX + cardH * 0.5, throwY + cardH / 6)
@@ -82,10 +83,25 @@ startGame()
     # shellcheck disable=SC2059  # the bytes are a format
     [ $# -lt 3 ] || printf "$3" > run/settings
     findControls
+    startAgain "$1"
+}
+
+# The program once more, where it ran before.
+startAgain()
+{
     trap endGame EXIT
     (cd run && exec "$1") &
     gamePid=$!
     until_ 30 "the main menu" pixelIs startEdge B2B2B2
+}
+
+# From the team setup to the choice of a course.
+chooseOneStage()
+{
+    click singleStage
+    until_ 5 "the choice of one stage" pixelIs singleStage 000000
+    click setupOk
+    until_ 5 "the courses" pixelIs cornerEdge B2B2B2
 }
 
 # The colour of the middle of a control as RRGGBB.
