@@ -135,7 +135,9 @@ void placeCyclist(cairo_t* cr, Spot centre, double height, const Kit& kit)
 // The sixteen places: place, rider, points, sprint points, total.
 void drawFinishTable(cairo_t* cr)
 {
-    constexpr double COLUMNS[] = {60, 124, 194, 264, 336, 423};
+    // The right edge keeps a block of the JPEG file away from the team table, which the general
+    // page shows by itself.
+    constexpr double COLUMNS[] = {60, 124, 194, 258, 342, 416};
     constexpr int POINTS[] = {50, 40, 35, 32, 30, 28, 26, 24, 22, 20, 18, 16, 14, 12, 10, 8};
     constexpr double HEAD = 318;
     constexpr double TOP = 365.2;
@@ -149,7 +151,7 @@ void drawFinishTable(cairo_t* cr)
         const Colour ground = row % 2 == 0 ? PAPER : SOFT;
         area(cr, COLUMNS[0], v, COLUMNS[5], v + STEP, row < 3 ? MEDALS[row] : ground);
         write(cr, std::to_string(row + 1), {92, middle}, 29, INK);
-        write(cr, std::to_string(POINTS[row]), {229, middle}, 25, rgb(0x5b6672));
+        write(cr, std::to_string(POINTS[row]), {226, middle}, 25, rgb(0x5b6672));
     }
     for (int row = 0; row <= 16; ++row)
         lineAcross(cr, TOP + row * STEP, COLUMNS[0], COLUMNS[5]);
@@ -158,7 +160,7 @@ void drawFinishTable(cairo_t* cr)
         lineDown(cr, u, HEAD, BOTTOM);
     drawPodium(cr, {92, 341});
     placeCyclist(cr, {159, 342}, 40, kitOf(1));
-    drawFlag(cr, {229, 341});
+    drawFlag(cr, {226, 341});
     drawBolt(cr, {300, 341}, 36);
     drawSigma(cr, {380, 341}, 28, INK);
 }
@@ -191,6 +193,28 @@ void drawSprintTable(cairo_t* cr)
         lineDown(cr, COLUMNS[i], HEAD, TOP + 3 * STEP);
 }
 
+// In signs: the points of the finish and those of the sprints are the total.
+void drawLegend(cairo_t* cr)
+{
+    constexpr double LEFT = 626;
+    constexpr double RIGHT = 1010;
+    constexpr double TOP = 372;
+    constexpr double BOTTOM = 450;
+    constexpr double MIDDLE = (TOP + BOTTOM) / 2;
+    area(cr, LEFT, TOP, RIGHT, BOTTOM, SOFT);
+    for (const double v : {TOP, BOTTOM})
+        lineAcross(cr, v, LEFT, RIGHT);
+    for (const double u : {LEFT, RIGHT})
+        lineDown(cr, u, TOP, BOTTOM);
+    drawFlag(cr, {690, MIDDLE});
+    drawBolt(cr, {818, MIDDLE}, 44);
+    drawSigma(cr, {946, MIDDLE}, 34, INK);
+    strokeLine(cr, {{740, MIDDLE}, {768, MIDDLE}}, false, 5, INK);
+    strokeLine(cr, {{754, MIDDLE - 14}, {754, MIDDLE + 14}}, false, 5, INK);
+    for (const double v : {MIDDLE - 8, MIDDLE + 8})
+        strokeLine(cr, {{868, v}, {896, v}}, false, 5, INK);
+}
+
 constexpr double TEAM_LEFT = 442.5;
 constexpr double TEAM_WIDTH = 141;
 constexpr double TEAM_HEAD = 879;
@@ -199,6 +223,7 @@ constexpr double TEAM_STEP = 74.25;
 constexpr double TEAM_SUM = TEAM_TOP + 4 * TEAM_STEP;
 constexpr double TEAM_BOTTOM = 1317;
 
+// The rider numbers stand right in the corners: on a small window the totals leave no more room.
 void drawTeamColumn(cairo_t* cr, int team)
 {
     constexpr Colour DEEP[] = {rgb(0x127a2c), rgb(0xa81c22), rgb(0x2c2d32), rgb(0x1d3f9e)};
@@ -213,9 +238,9 @@ void drawTeamColumn(cairo_t* cr, int team)
     write(cr, std::to_string(first) + "-" + std::to_string(first + 3),
           {left + TEAM_WIDTH / 2, (TEAM_HEAD + TEAM_TOP) / 2}, 27, PAPER);
     for (int i = 0; i < 4; ++i)
-        write(cr, std::to_string(first + i), {left + 25, TEAM_TOP + TEAM_STEP * i + 21}, 20,
+        write(cr, std::to_string(first + i), {left + 22, TEAM_TOP + TEAM_STEP * i + 17}, 18,
               DEEP[team]);
-    drawSigma(cr, {left + 21, TEAM_SUM + 22}, 22, DEEP[team]);
+    drawSigma(cr, {left + 17, TEAM_SUM + 18}, 19, DEEP[team]);
 }
 
 void drawTeamTable(cairo_t* cr)
@@ -279,6 +304,7 @@ std::vector<std::uint8_t> paintSheet()
     cairo_paint(canvas.cr);
     drawVignette(canvas.cr);
     drawFinishTable(canvas.cr);
+    drawLegend(canvas.cr);
     drawSprintTable(canvas.cr);
     drawTeamTable(canvas.cr);
     std::vector<std::uint8_t> bytes = shrink(canvas);

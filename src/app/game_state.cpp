@@ -64,6 +64,17 @@ bool cameraActive()
     }
 }
 
+bool teamTabsActive()
+{
+    return boardVisible() && gameState != STATE_SCORECARD && gameState != STATE_FINAL_SCORECARD;
+}
+
+bool cardsActive()
+{
+    return gameState == STATE_TURN || gameState == STATE_SKIP_HANDIN ||
+           gameState == STATE_EVENT_HANDIN;
+}
+
 bool dialogShown()
 {
     switch (gameState) {

@@ -66,5 +66,12 @@ bool racePanelActive();
 // The states in which the buttons for view and camera act.
 bool cameraActive();
 
+// The states in which a team's tab brings its cards into view: wherever the board is drawn, but under
+// the scorecards.
+bool teamTabsActive();
+
+// The states in which strength cards are picked and taken back.
+bool cardsActive();
+
 // The states in which a dialog box stands on the screen and can be dragged by its title bar.
 bool dialogShown();

@@ -1,45 +1,97 @@
 #include "input/actions.h"
 
-#include "ai/computer_turn.h"
-#include "app/game_state.h"
 #include "app/host.h"
 #include "app/view.h"
 #include "board/course.h"
 #include "board/designer.h"
 #include "race/race_state.h"
 #include "race/start.h"
+#include "store/race_file.h"
 #include "ui/cameras.h"
 #include "ui/team_setup.h"
 #include "ui/texts.h"
 
+#include <algorithm>
 #include <utility>
 
-static void enter(GameState state)
+void enter(GameState state)
 {
     gameState = state;
     redrawNow();
 }
 
+// A name may have got shorter since, by another language or another race.
+static void keepCursorInText()
+{
+    const int field = teamSetup.teamActiveField;
+    const std::string& text = field < TEAM_COUNT ? raceSetup.teamName[field] : raceSetup.raceName;
+    teamSetup.teamCursor = std::min(teamSetup.teamCursor, static_cast<int>(text.size()));
+}
+
 void openTeamSetup()
 {
+    keepCursorInText();
     enter(STATE_TEAM_SETUP);
 }
 
-void confirmTeamSetup()
+static constexpr char RACE_EXTENSION[] = ".race";
+
+static bool raceExists(const std::string& fileName)
+{
+    const std::vector<std::string> files = listRaceFiles();
+    return std::ranges::find(files, fileName) != files.end();
+}
+
+static void findSetupFaults()
 {
     teamSetup.setupMessages.clear();
     for (int team = 0; team < TEAM_COUNT; ++team)
         if (raceSetup.teamName[team].empty())
             teamSetup.setupMessages.push_back(
                 withNumber(texts.enterPlayerName, riderNumber(team * RIDERS_PER_TEAM)));
-    if (raceSetup.multiStage && raceSetup.raceName.empty())
+    if (!raceSetup.multiStage)
+        return;
+    if (raceSetup.raceName.empty())
         teamSetup.setupMessages.push_back(texts.enterRaceName);
+    else if (raceExists(utf8(raceSetup.raceName) + RACE_EXTENSION))
+        teamSetup.setupMessages.push_back(withName(texts.raceNameExists, raceSetup.raceName));
+}
+
+void confirmTeamSetup()
+{
+    findSetupFaults();
     if (!teamSetup.setupMessages.empty()) {
         enter(STATE_SETUP_MESSAGE);
         return;
     }
     raceSetup.raceStages.clear();
+    if (raceSetup.multiStage) {
+        nameRaceFiles(utf8(raceSetup.raceName));
+    } else {
+        forgetRaceFiles();
+        raceSetup.standingsFileName = "standings.csv";
+    }
+    goToCourses();
+}
+
+void nameRaceFiles(const std::string& baseName)
+{
+    raceSetup.raceBaseName = baseName;
+    raceSetup.raceFileName = baseName + RACE_EXTENSION;
+    raceSetup.standingsFileName = baseName + ".csv";
+}
+
+void forgetRaceFiles()
+{
+    raceSetup.raceBaseName.clear();
+    raceSetup.raceFileName.clear();
+    raceSetup.standingsFileName.clear();
+}
+
+void goToCourses()
+{
     courseText.clear();
+    courseScreens.designChoice = 0;
     courseScreens.courseHover = -1;
     returnState = gameState;
     enter(STATE_COURSE_SELECT);
@@ -61,18 +113,6 @@ void chooseHoveredCourse()
 void leaveCourseSelection()
 {
     enter(returnState);
-}
-
-void goOnWithoutEventCard()
-{
-    if (gameState != STATE_EVENT_NO_CARD)
-        return;
-    if (race.riders[race.currentRider].isHuman) {
-        enter(STATE_MOVE);
-        return;
-    }
-    gameState = STATE_COMPUTING;
-    planComputerMove(race.movesTotal, {0, 0});
 }
 
 void toggleView()

@@ -1,6 +1,13 @@
 #pragma once
 
+#include "app/game_state.h"
+
+#include <string>
+
 // What a control does outside the rules of the race. Mouse and keyboard call the same.
+
+// Changes to a state and paints.
+void enter(GameState state);
 
 // From the main menu.
 void openTeamSetup();
@@ -9,12 +16,17 @@ void openTeamSetup();
 void confirmTeamSetup();
 void closeSetupMessage();
 
+// Names the files of a race of several stages: baseName is that of its race file without the
+// extension. Any other race has none but that of its standings.
+void nameRaceFiles(const std::string& baseName);
+void forgetRaceFiles();
+
+// To the choice of a course, and back to the present state from there.
+void goToCourses();
+
 // Starts a race on the fixed course under the mouse, if there is one.
 void chooseHoveredCourse();
 void leaveCourseSelection();
-
-// "OK" to an event card that can't be played: the turn goes on as if it hadn't been drawn.
-void goOnWithoutEventCard();
 
 // Flat view to perspective view and back, each with the camera it had last.
 void toggleView();

@@ -1,20 +1,14 @@
 #include "input/course_input.h"
 
-#include "app/game_state.h"
 #include "app/host.h"
 #include "board/course.h"
 #include "board/designer.h"
+#include "input/actions.h"
 #include "input/keys.h"
 #include "race/start.h"
 #include "store/courses_file.h"
 #include "ui/access_keys.h"
 #include "ui/controls.h"
-
-static void enter(GameState state)
-{
-    gameState = state;
-    redrawNow();
-}
 
 void openCourseDesigner()
 {

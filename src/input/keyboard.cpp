@@ -10,14 +10,19 @@
 #include "input/course_input.h"
 #include "input/keys.h"
 #include "input/menu_input.h"
+#include "input/race_list_input.h"
+#include "input/scorecard_input.h"
 #include "input/settings_input.h"
 #include "input/setup_input.h"
 #include "race/cards.h"
+#include "race/doping.h"
+#include "race/events.h"
 #include "race/following.h"
 #include "race/hand_in.h"
 #include "race/movement.h"
 #include "race/placing.h"
 #include "race/race_state.h"
+#include "race/scoring.h"
 #include "race/turn_cycle.h"
 #include "ui/access_keys.h"
 
@@ -66,7 +71,7 @@ static void keepCard()
 }
 
 // clang-format off
-constexpr LetterAction turnLetters[] =     {{CONTROL_THROW, humanThrow}, {CONTROL_BREAKAWAY, toggleBreakaway}};
+constexpr LetterAction turnLetters[] =     {{CONTROL_THROW, humanThrow}, {CONTROL_BREAKAWAY, toggleBreakaway}, {CONTROL_DOPING, askDoping}};
 constexpr LetterAction extraDieLetters[] = {{CONTROL_THROW, throwExtraDie}};
 constexpr LetterAction orderLetters[] =    {{CONTROL_THROW, throwForOrder}};
 constexpr LetterAction resultLetters[] =   {{CONTROL_NEXT, afterOrderThrow}};
@@ -74,11 +79,13 @@ constexpr LetterAction followLetters[] =   {{CONTROL_YES, followYes}, {CONTROL_N
 constexpr LetterAction quitLetters[] =     {{CONTROL_YES, toMainMenu}, {CONTROL_NO, closeOverlay}};
 constexpr LetterAction kindLetters[] =     {{CONTROL_BLUE, receiveBlueCard}, {CONTROL_WHITE, receiveWhiteCard}};
 constexpr LetterAction whenLetters[] =     {{CONTROL_IMMEDIATELY, useCardNow}, {CONTROL_LATER, keepCard}};
-constexpr LetterAction finalLetters[] =    {{CONTROL_QUIT, toMainMenu}};
+constexpr LetterAction dopingLetters[] =   {{CONTROL_YES, confirmDoping}, {CONTROL_NO, closeOverlay}};
+constexpr LetterAction saveLetters[] =     {{CONTROL_RETRY, retrySave}, {CONTROL_ABORT, abortSave}};
 constexpr LetterAction menuLetters[] =     {{CONTROL_START, openTeamSetup}, {CONTROL_MANUAL, openManual}, {CONTROL_MENU_SETTINGS, openSettings},
-                                            {CONTROL_LANGUAGE, openLanguages}, {CONTROL_EXIT, quitProgram}};
+                                            {CONTROL_LANGUAGE, openLanguages}, {CONTROL_CONTINUE, openRaceFiles}, {CONTROL_EXIT, quitProgram}};
 constexpr LetterAction courseLetters[] =   {{CONTROL_CREATE_COURSE, openCourseDesigner}, {CONTROL_SAVED_COURSE, openSavedCourses}, {CONTROL_COURSE_BACK, leaveCourseSelection}};
-constexpr LetterAction panelLetters[] =    {{CONTROL_QUIT, openQuitConfirm}, {CONTROL_RACE_SETTINGS, openSettings}};
+constexpr LetterAction panelLetters[] =    {{CONTROL_QUIT, openQuitConfirm}, {CONTROL_SCORECARD, openScorecard}, {CONTROL_POSITIONS, openPositions},
+                                            {CONTROL_RACE_SETTINGS, openSettings}};
 // clang-format on
 
 static void letterOfState(unsigned char key)
@@ -100,8 +107,10 @@ static void letterOfState(unsigned char key)
         return actOnLetter(key, kindLetters);
     case STATE_EVENT_CARD_WHEN:
         return actOnLetter(key, whenLetters);
-    case STATE_FINAL_SCORECARD:
-        return actOnLetter(key, finalLetters);
+    case STATE_CONFIRM_DOPING:
+        return actOnLetter(key, dopingLetters);
+    case STATE_SAVE_FAILED:
+        return actOnLetter(key, saveLetters);
     case STATE_MAIN_MENU:
         return actOnLetter(key, menuLetters);
     case STATE_COURSE_SELECT:
@@ -115,6 +124,8 @@ static void letterOfState(unsigned char key)
 static void (*confirmation())()
 {
     switch (gameState) {
+    case STATE_EVENT_CARD:
+        return applyEventCard;
     case STATE_SKIP_HANDIN:
     case STATE_EVENT_HANDIN:
     case STATE_SKIP_NO_CARD:
@@ -123,6 +134,12 @@ static void (*confirmation())()
         return goOnWithoutEventCard;
     case STATE_NO_MOVE:
         return leaveRound;
+    case STATE_DOPING_NUMBER:
+        return takeDopingCard;
+    case STATE_DOPING_DRAW:
+        return afterDopingDraw;
+    case STATE_DOPING_COUNTERCHECK:
+        return nextCountercheck;
     case STATE_SETUP_MESSAGE:
         return closeSetupMessage;
     default:
@@ -141,20 +158,28 @@ static void steeringKey(unsigned char key)
         undoStep();
 }
 
-static void keyOfState(unsigned char key)
+static void keyOfState(unsigned char key, bool backward)
 {
     switch (gameState) {
     case STATE_MOVE:
     case STATE_PLACE_HUMAN:
         return steeringKey(key);
     case STATE_TEAM_SETUP:
-        return keyInTeamSetup(key);
+        return keyInTeamSetup(key, backward);
     case STATE_COURSE_DESIGN:
         return keyInCourseDesigner(key);
     case STATE_MANUAL:
         return keyInManual(key);
+    case STATE_RACE_FILES:
+        return keyInRaceFiles(key);
+    case STATE_SCORECARD:
+    case STATE_FINAL_SCORECARD:
+    case STATE_RACE_STANDINGS:
+        return keyInScorecard(key);
+    case STATE_POSITIONS:
+        return keyInPositions(key);
     case STATE_SETTINGS:
-        return keyInSettings(key);
+        return keyInSettings(key, backward);
     default:
         break;
     }
@@ -164,7 +189,7 @@ static void keyOfState(unsigned char key)
 
 static void teamTabKey(bool backward)
 {
-    if (!boardVisible() || gameState == STATE_SCORECARD || gameState == STATE_FINAL_SCORECARD)
+    if (!teamTabsActive())
         return;
     showTeam((view.shownTeam + (backward ? TEAM_COUNT - 1 : 1)) % TEAM_COUNT);
 }
@@ -216,12 +241,13 @@ void onKeyUp(unsigned char key, int, int)
     key = asPressed(key);
     if (key == COMMAND || commandHeld())
         return;
-    keyOfState(key);
+    const bool backward = key == KEY_TAB && (std::exchange(tabPressedBackward, false) ||
+                                             (heldModifiers() & GLUT_ACTIVE_SHIFT) != 0);
+    keyOfState(key, backward);
     if (racePanelActive())
         actOnLetter(key, panelLetters);
     if (key == KEY_TAB)
-        teamTabKey(std::exchange(tabPressedBackward, false) ||
-                   (heldModifiers() & GLUT_ACTIVE_SHIFT) != 0);
+        teamTabKey(backward);
 }
 
 static void steer(int key)
@@ -300,12 +326,6 @@ static void cardKey(int key)
     }
 }
 
-static bool cardKeysAct()
-{
-    return gameState == STATE_TURN || gameState == STATE_SKIP_HANDIN ||
-           gameState == STATE_EVENT_HANDIN;
-}
-
 void onSpecialUp(int key, int, int)
 {
     if (commandHeld())
@@ -320,6 +340,9 @@ void onSpecialUp(int key, int, int)
         specialInManual(key);
     else if (gameState == STATE_SETTINGS)
         specialInSettings(key);
-    else if (cardKeysAct() && key >= GLUT_KEY_F1 && key <= GLUT_KEY_F12)
+    else if (gameState == STATE_SCORECARD || gameState == STATE_FINAL_SCORECARD ||
+             gameState == STATE_RACE_STANDINGS)
+        specialInScorecard(key);
+    else if (cardsActive() && key >= GLUT_KEY_F1 && key <= GLUT_KEY_F12)
         cardKey(key);
 }

@@ -1,9 +1,9 @@
 #include "input/menu_input.h"
 
-#include "app/game_state.h"
 #include "app/host.h"
 #include "app/overlays.h"
 #include "app/settings.h"
+#include "input/actions.h"
 #include "input/keys.h"
 #include "store/settings_file.h"
 #include "ui/controls.h"
@@ -14,15 +14,13 @@
 
 void openLanguages()
 {
-    gameState = STATE_LANGUAGE;
-    redrawNow();
+    enter(STATE_LANGUAGE);
 }
 
 void openManual()
 {
     manualPage = 0;
-    gameState = STATE_MANUAL;
-    redrawNow();
+    enter(STATE_MANUAL);
 }
 
 static int languageUnder(int x, int y)

@@ -9,13 +9,18 @@
 #include "input/actions.h"
 #include "input/course_input.h"
 #include "input/menu_input.h"
+#include "input/race_list_input.h"
+#include "input/scorecard_input.h"
 #include "input/settings_input.h"
 #include "input/setup_input.h"
 #include "race/cards.h"
+#include "race/doping.h"
+#include "race/events.h"
 #include "race/following.h"
 #include "race/hand_in.h"
 #include "race/placing.h"
 #include "race/race_state.h"
+#include "race/scoring.h"
 #include "race/turn_cycle.h"
 #include "ui/controls.h"
 #include "ui/layout.h"
@@ -47,6 +52,8 @@ static void pressInTurn(Point at)
         unpickCard(1);
     else if (at.in(breakawayBox()))
         toggleBreakaway();
+    else if (at.in(dopingButton()))
+        askDoping();
 }
 
 static void pressScreen(Point at)
@@ -67,6 +74,8 @@ static void releaseInMainMenu(Point at)
         openSettings();
     else if (at.in(menuLanguageButton()))
         openLanguages();
+    else if (at.in(menuContinueButton()))
+        openRaceFiles();
     else if (at.in(exitButton()))
         quitProgram();
 }
@@ -106,19 +115,16 @@ static void releaseScreen(Point at)
         return releaseInCourseDesigner(at.x, at.y);
     case STATE_COURSE_SAVED:
         return releaseInSavedCourses(at.x, at.y);
+    case STATE_RACE_FILES:
+        return releaseInRaceFiles(at.x, at.y);
     default:
         return;
     }
 }
 
-static bool teamTabsAct()
-{
-    return boardVisible() && gameState != STATE_SCORECARD && gameState != STATE_FINAL_SCORECARD;
-}
-
 static void releaseTeamTab(Point at)
 {
-    if (!teamTabsAct())
+    if (!teamTabsActive())
         return;
     for (int team = 0; team < TEAM_COUNT; ++team) {
         if (at.in(teamTab(team)))
@@ -128,9 +134,7 @@ static void releaseTeamTab(Point at)
 
 static bool cardsAct()
 {
-    return (gameState == STATE_TURN || gameState == STATE_SKIP_HANDIN ||
-            gameState == STATE_EVENT_HANDIN) &&
-           race.roundNumber != 1;
+    return cardsActive() && race.roundNumber != 1;
 }
 
 static void pressHandIn(Point at)
@@ -175,6 +179,8 @@ static void releaseDialog(Point at)
     switch (gameState) {
     case STATE_FOLLOW_PROMPT:
         return answer(at, followYes, followNo);
+    case STATE_EVENT_CARD:
+        return confirm(at, applyEventCard);
     case STATE_EVENT_CARD_KIND:
         return answer(
             at, [] { receiveWonCard(BLUE_CARD); }, [] { receiveWonCard(WHITE_CARD); });
@@ -185,14 +191,28 @@ static void releaseDialog(Point at)
         return confirm(at, goOnWithoutEventCard);
     case STATE_NO_MOVE:
         return confirm(at, leaveRound);
+    case STATE_CONFIRM_DOPING:
+        return answer(at, confirmDoping, closeOverlay);
+    case STATE_DOPING_NUMBER:
+        return confirm(at, takeDopingCard);
+    case STATE_DOPING_DRAW:
+        return confirm(at, afterDopingDraw);
+    case STATE_DOPING_COUNTERCHECK:
+        return confirm(at, nextCountercheck);
+    case STATE_SAVE_FAILED:
+        return answer(at, retrySave, abortSave);
     case STATE_CONFIRM_QUIT:
         return answer(at, toMainMenu, closeOverlay);
     case STATE_SKIP_NO_CARD:
         return confirm(at, confirmHandIn);
     case STATE_SETUP_MESSAGE:
         return confirm(at, closeSetupMessage);
+    case STATE_SCORECARD:
     case STATE_FINAL_SCORECARD:
-        return at.in(scorecardOkButton()) ? toMainMenu() : void();
+    case STATE_RACE_STANDINGS:
+        return releaseInScorecard(at.x, at.y);
+    case STATE_POSITIONS:
+        return releaseInPositions(at.x, at.y);
     default:
         return;
     }
@@ -227,6 +247,10 @@ static void pressSidePanel(Point at)
         return;
     if (at.in(quitButton()))
         openQuitConfirm();
+    else if (at.in(scorecardButton()))
+        openScorecard();
+    else if (at.in(positionsButton()))
+        openPositions();
     else if (at.in(settingsButton()))
         openSettings();
 }
@@ -253,12 +277,14 @@ static void pressLeft(Point at)
     pressCamera(GLUT_LEFT_BUTTON, at);
 }
 
-static void releaseLeft(Point at)
+// A dialog is answered only by a click that began on it: one that opened it, where it has been
+// dragged in front of a button, hasn't read it.
+static void releaseLeft(Point at, GameState pressedIn)
 {
     view.dragActive = false;
     releaseScreen(at);
     releaseTeamTab(at);
-    if (!cardsAct())
+    if (!cardsAct() && gameState == pressedIn)
         releaseDialog(at);
 }
 
@@ -307,7 +333,7 @@ static void clickLeft(bool pressed, Point at)
     }
     if (guard.dropped)
         return;
-    pressed ? pressLeft(at) : releaseLeft(at);
+    pressed ? pressLeft(at) : releaseLeft(at, guard.pressedIn);
     if (!pressed && (gameState != guard.pressedIn || mayAskAgain(at))) {
         guard.changedAt = at;
         guard.changedTime = mouseClock();

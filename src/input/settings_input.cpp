@@ -15,6 +15,7 @@
 
 #include <cstdlib>
 #include <iterator>
+#include <utility>
 
 static TextField activeField()
 {
@@ -45,6 +46,7 @@ static void chooseRatio(const ScreenRatio& choice)
         return;
     settings.ratioW = choice.w;
     settings.ratioH = choice.h;
+    settingsScreen.guessGivenUp |= ratioChosenByProgram;
     ratioChosenByProgram = false;
     activate(firstOpenSettingsField());
 }
@@ -70,7 +72,7 @@ static void confirmSettings()
     settings.stepDistance = static_cast<float>(numberIn(FIELD_STEP_DISTANCE));
     settings.stepDelay = numberIn(FIELD_STEP_DELAY);
     fillSettingsFields(settings);
-    ratioChosenByProgram = false;
+    settingsScreen.guessGivenUp = ratioChosenByProgram = false;
     writeSettings();
     if (ratioDiffers(settingsBackup.ratioW, settingsBackup.ratioH))
         layOutAnew();
@@ -84,6 +86,7 @@ static void cancelSettings()
     if (!ratioChosenByProgram) {
         settings.ratioW = settingsBackup.ratioW;
         settings.ratioH = settingsBackup.ratioH;
+        ratioChosenByProgram = std::exchange(settingsScreen.guessGivenUp, false);
     }
     fillSettingsFields(settings);
     const int shownW = layout.viewW;
@@ -134,17 +137,20 @@ void releaseInSettings(int x, int y)
     redrawNow();
 }
 
-// The open field a step further on, or back at the first behind the last.
-static int nextField()
+// The next field that is open, from the last one to the first; backward the one before.
+static int neighbourField(bool backward)
 {
-    const int next = settingsScreen.settingsActiveField + 1;
-    return next < SETTINGS_FIELD_COUNT && settingsFieldOpen(next) ? next : firstOpenSettingsField();
+    int field = settingsScreen.settingsActiveField;
+    do
+        field = (field + (backward ? SETTINGS_FIELD_COUNT - 1 : 1)) % SETTINGS_FIELD_COUNT;
+    while (!settingsFieldOpen(field));
+    return field;
 }
 
-void keyInSettings(unsigned char key)
+void keyInSettings(unsigned char key, bool backward)
 {
     if (key == KEY_TAB || key == KEY_ENTER)
-        activate(nextField());
+        activate(neighbourField(backward));
     else if (key == KEY_BACKSPACE)
         eraseBefore(activeField());
     else if (key == KEY_DELETE)

@@ -68,7 +68,7 @@ static bool releaseInTeamRows(int x, int y)
     return false;
 }
 
-static bool releaseInStages(int x, int y)
+static bool releaseInRaceOptions(int x, int y)
 {
     if (raceSetup.multiStage && raceNameBox().contains(x, y))
         clickField(RACE_NAME_FIELD, x, raceNameBox());
@@ -76,6 +76,8 @@ static bool releaseInStages(int x, int y)
         chooseStages(true);
     else if (singleStageRadio().contains(x, y))
         chooseStages(false);
+    else if (eventCardsBox().contains(x, y))
+        raceSetup.eventCardsOn = !raceSetup.eventCardsOn;
     else
         return false;
     return true;
@@ -87,7 +89,7 @@ void releaseInTeamSetup(int x, int y)
         confirmTeamSetup();
     else if (cornerButton().contains(x, y))
         toMainMenu();
-    else if (releaseInTeamRows(x, y) || releaseInStages(x, y))
+    else if (releaseInTeamRows(x, y) || releaseInRaceOptions(x, y))
         redrawNow();
 }
 
@@ -99,10 +101,10 @@ static bool isNameCharacter(unsigned char key)
     return letter || accented || (key >= '0' && key <= '9') || key == ' ' || key == '-';
 }
 
-void keyInTeamSetup(unsigned char key)
+void keyInTeamSetup(unsigned char key, bool backward)
 {
     if (key == KEY_TAB || key == KEY_ENTER)
-        activate((teamSetup.teamActiveField + 1) % fieldCount());
+        activate((teamSetup.teamActiveField + (backward ? fieldCount() - 1 : 1)) % fieldCount());
     else if (key == KEY_BACKSPACE)
         eraseBefore(activeField());
     else if (key == KEY_DELETE)

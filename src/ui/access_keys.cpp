@@ -40,6 +40,11 @@ constexpr Table<AccessKey, CONTROL_COUNT> accessKeys = {{
     {&Texts::courseBack,        {{  0,      0,       0,      0 }}},
     {&Texts::addSection,        {{  0,      0,       0,      0 }}},
     {&Texts::previousSection,   {{  0,      0,       0,      0 }}},
+    {&Texts::retry,             {{  0,      0,       0,      0 }}},
+    {&Texts::abort,             {{  0,      0,       0,      0 }}},
+    {&Texts::exportButton,      {{  1,      1,       1,      1 }}},
+    {&Texts::general,           {{  0,      0,       0,     -1 }}},
+    {&Texts::stageTab,          {{  0,      0,       4,      0 }}},
 }};
 // clang-format on
 

@@ -45,7 +45,6 @@ Rect settingsButton()  { return {layout.sideButtonX, layout.settingsButtonY, lay
 Rect quitButton()      { return {layout.cornerButtonX, layout.cornerButtonY, layout.sideButtonW, layout.buttonH}; }
 
 Rect cardPanel()        { return {layout.cardPanelX, layout.hudY, layout.cardPanelW, layout.cardPanelH}; }
-Rect teamTabs()         { return {layout.cardPanelX, layout.teamTabsY, layout.cardPanelW, layout.teamTabsH}; }
 Rect throwButton()      { return {layout.diceX, layout.throwButtonY, layout.cardH, layout.throwButtonH}; }
 Rect handInOkButton()   { return {layout.diceX, layout.handInOkY, layout.cardH, layout.throwButtonH}; }
 Rect extraCardSlot()    { return {layout.eventSlotX, layout.hudY, layout.cardW, layout.cardH}; }

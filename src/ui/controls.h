@@ -28,7 +28,6 @@ Rect settingsButton();
 Rect quitButton();
 Rect cardPanel();         // without its tabs
 Rect cardPlace(int slot); // 0 to 13 the set, 14 to 17 the won cards
-Rect teamTabs();          // all four
 Rect teamTab(int team);
 Rect dicePlace(int die); // 0 left, 1 right
 Rect breakawayBox();

@@ -1,9 +1,12 @@
 #include "ui/dialogs.h"
 
 #include "app/game_state.h"
+#include "race/doping.h"
+#include "race/event_deck.h"
 #include "race/race_state.h"
 #include "ui/access_keys.h"
 #include "ui/controls.h"
+#include "ui/event_texts.h"
 #include "ui/layout.h"
 #include "ui/pawns.h"
 #include "ui/team_setup.h"
@@ -11,12 +14,16 @@
 #include "ui/texts.h"
 #include "ui/widgets.h"
 
+#include <algorithm>
 #include <string>
 #include <string_view>
 #include <vector>
 
 constexpr float LINE_PITCH = 12.0f;    // of lines that are sentences of their own
 constexpr float WRAPPED_PITCH = 15.0f; // of one text that needs more than a line
+constexpr float REPORT_PITCH = 15.0f;  // of the lines of a report
+constexpr float ABOVE_LINE = 8.0f;     // kept free from the middle of a line of text upward
+constexpr float BELOW_LINE = 7.0f;     // and downward
 constexpr float PAWN_RADIUS = 14.0f;
 constexpr float TEXT_MARGIN = 12.0f; // pixels kept free at either side of a text
 
@@ -111,16 +118,114 @@ static void drawFollowPrompt()
     drawTwoButtons(CONTROL_YES, CONTROL_NO);
 }
 
+// Lines one below the other, the first in the given distance from the middle of the box. Where they
+// would run into the buttons they move up and, if need be, together.
+static void drawColumn(const std::vector<std::string>& lines, float first, float pitch)
+{
+    if (lines.empty())
+        return;
+    const Rect box = dialogBox();
+    const float lowest = dialogOkButton().y - box.y - BELOW_LINE;
+    const float gaps = static_cast<float>(std::max<std::size_t>(1, lines.size() - 1));
+    const float step = std::min(pitch, (lowest - ABOVE_LINE) / gaps);
+    const float highest =
+        std::max(ABOVE_LINE, std::min(box.h * 0.5f + first, lowest - gaps * step));
+    for (std::size_t i = 0; i < lines.size(); ++i)
+        drawText(box.x + box.w * 0.5f, box.y + highest + static_cast<float>(i) * step, ALIGN_CENTRE,
+                 lines[i]);
+}
+
+// Each of the sentences in as many lines as it needs.
+static void drawReport(const std::vector<std::string>& sentences)
+{
+    std::vector<std::string> lines;
+    for (const std::string& sentence : sentences)
+        for (const std::string& line : linesOf(sentence, dialogBox().w - 2.0f * TEXT_MARGIN))
+            lines.push_back(line);
+    drawColumn(lines, -2.0f * REPORT_PITCH, REPORT_PITCH);
+}
+
+// Title, an empty line, effect.
+static void drawEventCard()
+{
+    const int card = deck.eventDeck[deck.eventCardPos];
+    std::vector<std::string> lines = eventTitle(card);
+    lines.emplace_back();
+    for (const std::string& line : eventEffect(card))
+        lines.push_back(line);
+    drawBox();
+    drawColumn(lines, -0.5f * static_cast<float>(lines.size()) * LINE_PITCH, LINE_PITCH);
+    drawOkButton();
+}
+
+static void drawDopingNumber()
+{
+    drawNotice(texts.dopingNumber + ": " + std::to_string(race.dopingNumber[race.currentRider]));
+}
+
+// The list breaks behind any of its commas.
+static std::vector<std::string> caughtRiders()
+{
+    std::vector<std::string> lines{""};
+    for (int rider = 0; rider < RIDER_COUNT; ++rider) {
+        if (!isCaught(rider))
+            continue;
+        const std::string number = std::to_string(riderNumber(rider));
+        const std::string longer = lines.back().empty() ? number : lines.back() + "," + number;
+        if (static_cast<float>(textWidth(longer + ",", FONT_BODY)) <=
+            dialogBox().w - 2.0f * TEXT_MARGIN) {
+            lines.back() = longer;
+        } else {
+            lines.back() += ",";
+            lines.push_back(number);
+        }
+    }
+    return lines;
+}
+
+static void drawDopingDraw()
+{
+    std::vector<std::string> sentences = {
+        texts.dopingControl, texts.drawnNumbers + ": " + std::to_string(race.dopingDraw[0]) + " " +
+                                 texts.andWord + " " + std::to_string(race.dopingDraw[1])};
+    if (race.anyDoping) {
+        sentences.push_back(texts.cyclistsCaught);
+        for (const std::string& line : caughtRiders())
+            sentences.push_back(line);
+    }
+    drawBox();
+    drawReport(sentences);
+    drawOkButton();
+}
+
+static void drawCountercheck()
+{
+    const std::string number = std::to_string(riderNumber(race.currentRider));
+    drawBox();
+    drawReport({texts.countercheck,
+                texts.dopingNumberOfCyclist + " " + number + ": " +
+                    std::to_string(race.dopingNumber[race.currentRider]),
+                texts.draw + ": " + std::to_string(race.counterDie),
+                texts.cyclist + " " + number + " " +
+                    (counterDieAcquits() ? texts.acquitted : texts.disqualificationConfirmed)});
+    drawOkButton();
+}
+
+// The name is that of a file, which may be of any length.
+static void drawSaveFailed()
+{
+    const float room = dialogBox().w - 2.0f * TEXT_MARGIN;
+    drawBox();
+    drawReport({texts.couldNotSave + "\"" +
+                cutToWidth(shownFileName(raceSetup.raceFileName), room * 0.8f) + "\""});
+    drawTwoButtons(CONTROL_RETRY, CONTROL_ABORT);
+}
+
 static void drawSetupMessages()
 {
-    const Rect box = dialogBox();
+    const auto& messages = teamSetup.setupMessages;
     drawBox();
-    float y = box.y + box.h * 0.5f -
-              static_cast<float>(teamSetup.setupMessages.size() + 1) * 0.5f * LINE_PITCH;
-    for (const std::string& message : teamSetup.setupMessages) {
-        drawText(box.x + box.w * 0.5f, y, ALIGN_CENTRE, message);
-        y += LINE_PITCH;
-    }
+    drawColumn(messages, -0.5f * static_cast<float>(messages.size() + 1) * LINE_PITCH, LINE_PITCH);
     drawOkButton();
 }
 
@@ -129,6 +234,8 @@ void drawDialog()
     switch (gameState) {
     case STATE_FOLLOW_PROMPT:
         return drawFollowPrompt();
+    case STATE_EVENT_CARD:
+        return drawEventCard();
     case STATE_NO_MOVE:
         return drawRiderNotice(texts.noForward);
     case STATE_SKIP_NO_CARD:
@@ -139,6 +246,16 @@ void drawDialog()
         return drawSetupMessages();
     case STATE_CONFIRM_QUIT:
         return drawQuestion(texts.confirmQuit, CONTROL_YES, CONTROL_NO);
+    case STATE_CONFIRM_DOPING:
+        return drawQuestion(texts.confirmDoping, CONTROL_YES, CONTROL_NO);
+    case STATE_DOPING_NUMBER:
+        return drawDopingNumber();
+    case STATE_DOPING_DRAW:
+        return drawDopingDraw();
+    case STATE_DOPING_COUNTERCHECK:
+        return drawCountercheck();
+    case STATE_SAVE_FAILED:
+        return drawSaveFailed();
     case STATE_EVENT_CARD_KIND:
         return drawQuestion(texts.whichCard, CONTROL_BLUE, CONTROL_WHITE);
     case STATE_EVENT_CARD_WHEN:

@@ -5,6 +5,7 @@
 #include "ui/dialogs.h"
 #include "ui/layout.h"
 #include "ui/matrices.h"
+#include "ui/positions.h"
 #include "ui/race_view.h"
 #include "ui/scorecard.h"
 #include "ui/screens.h"
@@ -58,11 +59,20 @@ static void drawScreenOfState()
         return drawCourseDesigner();
     case STATE_COURSE_SAVED:
         return drawSavedCourses();
-    case STATE_FINAL_SCORECARD:
-        return drawScorecard();
+    case STATE_RACE_FILES:
+    case STATE_RACE_STANDINGS:
+        return drawRaceFiles();
+    case STATE_POSITIONS:
+        return drawPositions();
     default:
         return;
     }
+}
+
+static bool scorecardShown()
+{
+    return gameState == STATE_SCORECARD || gameState == STATE_FINAL_SCORECARD ||
+           gameState == STATE_RACE_STANDINGS;
 }
 
 void drawFrame()
@@ -79,5 +89,7 @@ void drawFrame()
         drawRacePanel();
     drawScreenOfState();
     drawDialog();
+    if (scorecardShown())
+        drawScorecard();
     glutSwapBuffers();
 }

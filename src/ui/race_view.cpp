@@ -5,6 +5,7 @@
 #include "board/course.h"
 #include "board/trig_tables.h"
 #include "race/card_rules.h"
+#include "race/doping.h"
 #include "race/race_state.h"
 #include "ui/access_keys.h"
 #include "ui/card_panel.h"
@@ -63,13 +64,12 @@ static void drawCameraButton()
 
 static void drawSideButtons()
 {
-    // Grey: these screens, and doping, are yet to come.
-    drawControl(CONTROL_SCORECARD, scorecardButton(), false);
-    drawControl(CONTROL_POSITIONS, positionsButton(), false);
-    drawControl(CONTROL_DOPING, dopingButton(), false);
-
-    drawControl(CONTROL_RACE_SETTINGS, settingsButton(), racePanelActive());
-    drawControl(CONTROL_QUIT, quitButton(), racePanelActive());
+    const bool open = racePanelActive();
+    drawControl(CONTROL_SCORECARD, scorecardButton(), open);
+    drawControl(CONTROL_POSITIONS, positionsButton(), open);
+    drawControl(CONTROL_DOPING, dopingButton(), mayDope());
+    drawControl(CONTROL_RACE_SETTINGS, settingsButton(), open);
+    drawControl(CONTROL_QUIT, quitButton(), open);
 }
 
 static void drawTeamBox()

@@ -1,109 +1,167 @@
 #include "ui/scorecard.h"
 
+#include "app/game_state.h"
+#include "app/view.h"
 #include "race/race_state.h"
 #include "race/scoring.h"
+#include "store/race_file.h"
 #include "ui/access_keys.h"
 #include "ui/controls.h"
 #include "ui/layout.h"
+#include "ui/models.h"
 #include "ui/pawns.h"
+#include "ui/score_pages.h"
 #include "ui/text.h"
 #include "ui/texts.h"
 #include "ui/widgets.h"
 
+#include <GL/gl.h>
+
 #include <string>
 
-constexpr Colour RULE_GREY = {0.75f, 0.75f, 0.75f};
-constexpr Colour BAND_GREY = {0.93f, 0.93f, 0.95f};
-constexpr int SHEET_ROWS = 2 + RIDER_COUNT + 1 + TEAM_COUNT + 2; // heads, space, buttons
+// Places on a page are told in units of the paper sheet that the picture shows.
+constexpr float PAPER_W = 1072.0f;
+constexpr float PAPER_H = 1419.0f;
 
-// Columns as fractions of the sheet's width.
-constexpr float MARGIN = 0.05f;
-constexpr float PLACE_COLUMN = 0.10f;
-constexpr float PAWN_COLUMN = 0.20f;
-constexpr float NAME_COLUMN = 0.27f;
-constexpr float SPRINT_COLUMN = 0.58f;
-constexpr float FINISH_COLUMN = 0.78f;
-constexpr float TOTAL_COLUMN = 0.92f;
+constexpr float TEAM_STEP = 141.0f; // from column to column of the team table
+constexpr float TEAM_ROW = 74.25f;
+constexpr Colour FAILURE_RED = {0.6f, 0.0f, 0.0f};
 
-static float columnX(float fraction)
+static float sheetX(float u)
 {
-    const Rect sheet = scorecardBox();
-    return sheet.x + sheet.w * fraction;
+    return layout.scorecardX + u * layout.scorecardW / PAPER_W;
 }
 
-static float rowHeight()
+static float sheetY(float v)
 {
-    return scorecardBox().h / static_cast<float>(SHEET_ROWS);
+    return layout.scorecardY + v * layout.scorecardPicH / PAPER_H;
 }
 
-// The middle of a row; row 0 holds the column heads.
-static float rowY(int row)
+static void write(float u, float v, Align align, std::string_view text, Font font = FONT_BODY)
 {
-    return scorecardBox().y + (static_cast<float>(row) + 1.2f) * rowHeight();
+    drawText(sheetX(u), sheetY(v), align, text, font);
 }
 
-static void drawNumber(float column, int row, int value)
+static float times(float step, int i)
 {
-    drawText(columnX(column), rowY(row), ALIGN_RIGHT, std::to_string(value));
+    return step * static_cast<float>(i);
 }
 
-static void drawBand(int row)
+static void drawList(unsigned list, float x, float y)
 {
-    const Rect sheet = scorecardBox();
-    if (row % 2 == 0)
-        return;
-    setColour(BAND_GREY);
-    fillRect(sheet.x, rowY(row) - rowHeight() * 0.5f, sheet.w, rowHeight());
+    glPushMatrix();
+    glTranslatef(x, y, 0.0f);
+    glCallList(list);
+    glPopMatrix();
 }
 
-static void drawRule(int row)
+static void drawSprintPlaces(const Table<int, RESULT_SLOT_COUNT>& slots, const StagePoints& points)
 {
-    setColour(RULE_GREY);
-    fillRect(columnX(MARGIN), rowY(row) - rowHeight() * 0.5f - 1.0f,
-             scorecardBox().w * (1.0f - 2.0f * MARGIN), 1.0f);
-}
-
-static void drawHeads()
-{
-    setColour(BLACK);
-    drawText(columnX(MARGIN), rowY(0), ALIGN_LEFT, texts.scorecard, FONT_TITLE);
-    drawText(columnX(SPRINT_COLUMN), rowY(0), ALIGN_RIGHT, texts.sprint);
-    drawText(columnX(FINISH_COLUMN), rowY(0), ALIGN_RIGHT, texts.finish);
-    drawRule(1);
+    for (int slot = 0; slot < FINISH_SLOT; ++slot) {
+        const int rider = slots[slot];
+        if (rider == -1 || (points.place[rider] == -1 && !shownStageRuns()))
+            continue;
+        const float u = 690.0f + times(128.0f, slot / SPRINT_PLACES);
+        const float v = 614.0f + times(66.0f, slot % SPRINT_PLACES);
+        drawPawnAt(rider, sheetX(u), sheetY(v), SMALL_PAWN);
+    }
 }
 
 static void drawFinisher(const StagePoints& points, int rider)
 {
-    const int row = 1 + points.place[rider];
-    drawBand(row);
+    const float v = 395.0f + times(59.6f, points.place[rider]);
+    drawPawnAt(rider, sheetX(159.0f), sheetY(v), SMALL_PAWN);
     setColour(BLACK);
-    drawNumber(PLACE_COLUMN, row, points.place[rider] + 1);
-    drawText(columnX(NAME_COLUMN), rowY(row), ALIGN_LEFT, raceSetup.teamName[riderTeam(rider)]);
-    if (points.sprint[rider] != 0)
-        drawNumber(SPRINT_COLUMN, row, points.sprint[rider]);
-    drawNumber(FINISH_COLUMN, row, points.total[rider] - points.sprint[rider]);
-    drawNumber(TOTAL_COLUMN, row, points.total[rider]);
-    drawPawnAt(rider, columnX(PAWN_COLUMN), rowY(row), SMALL_PAWN);
+    write(299.0f, v, ALIGN_CENTRE, std::to_string(points.sprint[rider]));
+    write(381.0f, v, ALIGN_CENTRE, riderTotalText(points, rider));
 }
 
-static void drawTeams(const StagePoints& points)
+static void drawStagePage(const Table<int, RESULT_SLOT_COUNT>& slots)
 {
-    const Table<int, TEAM_COUNT> order = teamOrder(points.team);
-    const int firstRow = RIDER_COUNT + 2;
-    drawRule(firstRow);
+    const StagePoints points = stagePoints(slots, shownStageRuns());
+    drawList(lists.scorecardList, layout.scorecardX, layout.scorecardY);
+    drawSprintPlaces(slots, points);
+    for (int rider = 0; rider < RIDER_COUNT; ++rider)
+        if (points.place[rider] != -1)
+            drawFinisher(points, rider);
+    setColour(BLACK);
+    for (int rider = 0; rider < RIDER_COUNT; ++rider)
+        write(513.0f + times(TEAM_STEP, riderTeam(rider)),
+              987.0f + times(TEAM_ROW, riderPlace(rider)), ALIGN_CENTRE,
+              riderTotalText(points, rider));
+    for (int team = 0; team < TEAM_COUNT; ++team)
+        write(513.0f + times(TEAM_STEP, team), 1281.5f, ALIGN_CENTRE, teamTotalText(points, team));
+}
+
+static void drawTeamOrder(const GeneralPoints& sums)
+{
+    const Table<int, TEAM_COUNT> order = teamOrder(sums.team);
     for (int i = 0; i < TEAM_COUNT; ++i) {
-        const int row = firstRow + i;
+        const float v = 200.0f + times(60.0f, i);
         const int team = order[i];
-        const int first = riderNumber(team * RIDERS_PER_TEAM);
-        setColour(BLACK);
-        drawNumber(PLACE_COLUMN, row, i + 1);
-        drawText(columnX(NAME_COLUMN), rowY(row), ALIGN_LEFT,
-                 raceSetup.teamName[team] + " (" + std::to_string(first) + "-" +
-                     std::to_string(first + RIDERS_PER_TEAM - 1) + ")");
-        drawNumber(TOTAL_COLUMN, row, points.team[team]);
-        const float side = rowHeight() * 0.5f;
-        setColour(teamColour[team]);
-        fillRect(columnX(PAWN_COLUMN) - side * 0.5f, rowY(row) - side * 0.5f, side, side);
+        write(270.0f, v, ALIGN_LEFT, std::to_string(i + 1));
+        write(300.0f, v, ALIGN_LEFT, scorecardTeamName(team));
+        write(610.0f, v, ALIGN_LEFT, teamNumbersText(team));
+        write(810.0f, v, ALIGN_RIGHT, std::to_string(sums.team[team]));
+    }
+}
+
+// The team table of the sheet, moved to the middle of the page.
+static void drawGeneralPage()
+{
+    const GeneralPoints sums = generalPoints();
+    drawList(lists.scorecardInnerList, layout.scorecardX + layout.scorecardInnerX,
+             layout.scorecardY + layout.scorecardInnerY);
+    setColour(BLACK);
+    for (int rider = 0; rider < RIDER_COUNT; ++rider)
+        write(330.0f + times(TEAM_STEP, riderTeam(rider)),
+              676.0f + times(TEAM_ROW, riderPlace(rider)), ALIGN_CENTRE,
+              std::to_string(sums.rider[rider]));
+    for (int team = 0; team < TEAM_COUNT; ++team)
+        write(330.0f + times(TEAM_STEP, team), 973.0f, ALIGN_CENTRE,
+              std::to_string(sums.team[team]));
+    drawTeamOrder(sums);
+}
+
+static void drawTitle()
+{
+    setColour(BLACK);
+    drawText(layout.stageTitleX, layout.stageTitleY, ALIGN_CENTRE, scorePageTitle(), FONT_TITLE);
+}
+
+static void drawArrow(const Rect& at, bool enabled, std::string_view label)
+{
+    drawButton(at.x, at.y, at.w, at.h, enabled, label, NO_ACCESS_KEY);
+}
+
+static void drawPageControls()
+{
+    if (!generalPageShown()) {
+        drawArrow(prevStageButton(), mayTurnBack(), "<");
+        drawArrow(nextStageButton(), mayTurnOn(), ">");
+    }
+    drawControl(CONTROL_GENERAL, generalViewButton(), mayShowGeneral());
+    drawControl(CONTROL_STAGE, stageViewButton(), mayShowStage());
+}
+
+static void drawLeaveButton()
+{
+    const Rect at = scorecardOkButton();
+    if (gameState == STATE_FINAL_SCORECARD)
+        drawControl(CONTROL_QUIT, at, true);
+    else
+        drawButton(at.x, at.y, at.w, at.h, true, "OK", 0);
+}
+
+// Between the tables and the buttons, where every page is free.
+static void drawExportMessage()
+{
+    const std::vector<std::string> lines = exportMessage();
+    setColour(view.exportStatus == EXPORT_FAILED ? FAILURE_RED : BLACK);
+    float v = lines.size() == 1 ? 1371.0f : 1354.0f;
+    for (const std::string& line : lines) {
+        write(PAPER_W * 0.5f, v, ALIGN_CENTRE, line);
+        v += 36.0f;
     }
 }
 
@@ -111,11 +169,15 @@ void drawScorecard()
 {
     const Rect sheet = scorecardBox();
     drawDialogBox(sheet.x, sheet.y, sheet.w, sheet.h);
-    const StagePoints points = stagePoints(race.resultSlots, false);
-    drawHeads();
-    for (int rider = 0; rider < RIDER_COUNT; ++rider)
-        if (points.place[rider] != -1)
-            drawFinisher(points, rider);
-    drawTeams(points);
-    drawControl(CONTROL_QUIT, scorecardOkButton(), true);
+    if (generalPageShown())
+        drawGeneralPage();
+    else
+        drawStagePage(shownSlots());
+    if (raceSetup.multiStage) {
+        drawTitle();
+        drawPageControls();
+    }
+    drawControl(CONTROL_EXPORT, exportButton(), true);
+    drawLeaveButton();
+    drawExportMessage();
 }

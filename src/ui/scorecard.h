@@ -1,5 +1,5 @@
 #pragma once
 
-// The result of a stage on a sheet over the race screen: the finish in order with the points of
-// each rider, and the teams by their sums.
+// The score sheet over whatever is on the screen, as score_pages tells it: the picture of the paper
+// sheet with pawns and numbers laid on it, and its controls.
 void drawScorecard();

@@ -17,8 +17,7 @@ void drawMainMenu()
     drawControl(CONTROL_LANGUAGE, menuLanguageButton(), true);
     drawControl(CONTROL_MANUAL, menuManualButton(), true);
     drawControl(CONTROL_MENU_SETTINGS, menuSettingsButton(), true);
-    // Grey: races that are kept in files are yet to come.
-    drawControl(CONTROL_CONTINUE, menuContinueButton(), false);
+    drawControl(CONTROL_CONTINUE, menuContinueButton(), true);
     drawControl(CONTROL_START, menuStartButton(), true);
     drawControl(CONTROL_EXIT, exitButton(), true);
 

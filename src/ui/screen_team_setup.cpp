@@ -10,9 +10,6 @@
 #include "ui/texts.h"
 #include "ui/widgets.h"
 
-// The choice is drawn as it stands, but grey, until there are cards to play with.
-constexpr bool EVENT_CARDS_EXIST = false;
-
 // Behind the dialog of STATE_SETUP_MESSAGE everything is grey.
 static bool choicesOpen()
 {
@@ -70,7 +67,7 @@ void drawTeamSetup()
     const Rect events = eventCardsBox();
     drawCheckBox(static_cast<int>(events.x), static_cast<int>(events.y),
                  static_cast<int>(layout.teamCheckSize), texts.enableEventCards, NO_ACCESS_KEY,
-                 EVENT_CARDS_EXIST, raceSetup.eventCardsOn);
+                 choicesOpen(), raceSetup.eventCardsOn);
 
     const Rect back = cornerButton();
     const Rect ok = teamOkButton();

@@ -14,3 +14,6 @@ void drawTeamSetup();
 void drawCourseSelection();
 void drawCourseDesigner();
 void drawSavedCourses();
+
+// The race files of the current folder; grey behind the score sheet in STATE_RACE_STANDINGS.
+void drawRaceFiles();

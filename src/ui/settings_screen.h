@@ -16,6 +16,7 @@ struct SettingsScreen {
     Table<std::string, SETTINGS_FIELD_COUNT> settingsFieldText = {{"", "", ""}};
     int settingsActiveField = FIELD_STEP_TIME; // the field with the cursor
     int settingsCursor = 0;                    // digits in front of the cursor
+    bool guessGivenUp = false; // a ratio that the program had guessed was changed by hand
 };
 
 extern SettingsScreen settingsScreen;

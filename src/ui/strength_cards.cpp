@@ -1,6 +1,7 @@
 #include "ui/strength_cards.h"
 
 #include "race/race_state.h"
+#include "ui/controls.h"
 #include "ui/layout.h"
 #include "ui/models.h"
 #include "ui/text.h"
@@ -127,10 +128,10 @@ static void drawPips(int value)
     }
 }
 
-static void drawDie(float x, float y, int value)
+static void drawDie(const Rect& place, int value)
 {
     glPushMatrix();
-    glTranslatef(x, y, 0.0f);
+    glTranslatef(place.x, place.y, 0.0f);
     glCallList(lists.dieList);
     drawPips(value);
     glPopMatrix();
@@ -138,18 +139,18 @@ static void drawDie(float x, float y, int value)
 
 static void drawTurnDie(int place)
 {
-    const float x = layout.diceX + static_cast<float>(place) * (layout.cardH + layout.cardGapX);
+    const Rect at = dicePlace(place);
     const int card = race.playedCards[place];
-    drawDie(x, layout.hudY, card == -1 ? race.dice[place] : -1);
+    drawDie(at, card == -1 ? race.dice[place] : -1);
     if (card != -1)
-        drawCard(x + (layout.cardH - layout.cardW) * 0.5f, layout.hudY,
-                 riderTeam(race.currentRider), card, 1.0f);
+        drawCard(at.x + (at.w - layout.cardW) * 0.5f, at.y, riderTeam(race.currentRider), card,
+                 1.0f);
 }
 
 void drawDice(DiceMode mode)
 {
     if (mode == DICE_EXTRA) {
-        drawDie(layout.hudCol3X, layout.hudY, race.extraDie);
+        drawDie(extraDicePlace(), race.extraDie);
         return;
     }
     drawTurnDie(0);

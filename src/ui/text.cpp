@@ -4,6 +4,8 @@
 
 #include <GL/glut.h>
 
+#include <algorithm>
+
 static constexpr int CHAR_WIDTH_OTHER = 6;
 static constexpr int SERIF_GLYPH_ADVANCE = 12;
 static constexpr float BASE_LINE_DROP = 3.0f;
@@ -22,6 +24,25 @@ int textWidth(std::string_view text, Font font)
     for (const char c : text)
         width += widths[codeOf(c)];
     return width;
+}
+
+// The double quote has a width on the screen, if none in the tables.
+static float widthWithQuotes(std::string_view text, Font font)
+{
+    constexpr int quoteW = 6;
+    const auto quotes = std::ranges::count(text, '"');
+    return static_cast<float>(textWidth(text, font) + quoteW * static_cast<int>(quotes));
+}
+
+std::string cutToWidth(std::string_view text, float room, Font font)
+{
+    if (widthWithQuotes(text, font) <= room)
+        return std::string(text);
+    constexpr std::string_view dots = "...";
+    const float left = room - static_cast<float>(textWidth(dots, font));
+    while (!text.empty() && widthWithQuotes(text, font) > left)
+        text.remove_suffix(1);
+    return std::string(text) + std::string(dots);
 }
 
 static float leftEnd(float x, Align align, std::string_view text, Font font)

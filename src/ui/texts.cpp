@@ -86,3 +86,44 @@ std::string latin1(std::string_view utf8)
     }
     return out;
 }
+
+std::string utf8(std::string_view latin1)
+{
+    std::string out;
+    for (const char c : latin1) {
+        const unsigned char code = static_cast<unsigned char>(c);
+        if (code < 0x80) {
+            out += c;
+            continue;
+        }
+        out += static_cast<char>(0xC0 | code >> 6);
+        out += static_cast<char>(0x80 | (code & 0x3F));
+    }
+    return out;
+}
+
+static bool isUtf8(std::string_view bytes)
+{
+    const auto isRest = [bytes](std::size_t i) {
+        return i < bytes.size() && (static_cast<unsigned char>(bytes[i]) & 0xC0) == 0x80;
+    };
+    for (std::size_t i = 0; i < bytes.size();) {
+        const unsigned char first = static_cast<unsigned char>(bytes[i]);
+        if ((first >= 0x80 && first < 0xC2) || first > 0xF4)
+            return false;
+        const std::size_t end = i + sequenceLength(first);
+        for (++i; i < end; ++i)
+            if (!isRest(i))
+                return false;
+    }
+    return true;
+}
+
+std::string shownFileName(std::string_view bytes)
+{
+    std::string shown = isUtf8(bytes) ? latin1(bytes) : std::string(bytes);
+    for (char& c : shown)
+        if ((static_cast<unsigned char>(c) & 0x7F) < 0x20 || c == 0x7F)
+            c = '?';
+    return shown;
+}

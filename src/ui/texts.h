@@ -28,3 +28,10 @@ std::string withName(std::string_view text, std::string_view name);
 
 // Latin-1 for UTF-8. Whatever Latin-1 doesn't hold becomes "?".
 std::string latin1(std::string_view utf8);
+
+// UTF-8 for Latin-1.
+std::string utf8(std::string_view latin1);
+
+// A file's name, which may be any bytes at all, as it can be drawn: UTF-8 as it is meant, any other
+// bytes as Latin-1, control characters as "?".
+std::string shownFileName(std::string_view bytes);

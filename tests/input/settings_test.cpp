@@ -90,6 +90,11 @@ TEST_F(SettingsScreenTest, KeysGoRoundTheOpenFieldsOnly)
     EXPECT_EQ(settingsScreen.settingsActiveField, FIELD_STEP_DISTANCE);
     player.key(ENTER);
     EXPECT_EQ(settingsScreen.settingsActiveField, FIELD_STEP_TIME);
+    player.held = GLUT_ACTIVE_SHIFT;
+    player.key(TAB);
+    EXPECT_EQ(settingsScreen.settingsActiveField, FIELD_STEP_DISTANCE);
+    player.held = 0;
+    player.key(TAB);
 
     player.click(stepwiseRadio());
     for (const char key : {TAB, ENTER})
@@ -130,6 +135,26 @@ TEST_F(SettingsScreenTest, CancelTakesBackARatioThatHasBeenLaidOut)
     EXPECT_LT(layout.viewW, 1000);
     player.click(settingsCancelButton());
     EXPECT_EQ(layout.viewW, 1000);
+}
+
+// What the program had guessed from the window's size is a guess again, made anew at the next size.
+TEST_F(SettingsScreenTest, CancelBringsBackTheGuess)
+{
+    startProgram(1280, 1024);
+    player.click(menuSettingsButton());
+    ASSERT_TRUE(ratioChosenByProgram);
+    player.click(ratioRadio(2));
+    player.click(ratioRadio(1));
+    player.click(settingsCancelButton());
+    EXPECT_EQ(settings.ratioW, 5.0);
+    resizeScreen(1600, 1000);
+    EXPECT_EQ(settings.ratioW, 16.0);
+
+    player.click(menuSettingsButton());
+    player.click(ratioRadio(2));
+    player.click(settingsOkButton());
+    resizeScreen(1280, 1024);
+    EXPECT_EQ(settings.ratioW, 16.0) << "chosen";
 }
 
 TEST_F(SettingsScreenTest, DefaultsCountWithOkOnly)

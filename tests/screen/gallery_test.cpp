@@ -1,12 +1,15 @@
 #include "app/game_state.h"
 #include "app/settings.h"
+#include "race/event_deck.h"
 #include "race/race_state.h"
 #include "screen/support/gl_window.h"
 #include "screen/support/scenes.h"
 #include "support/own_folder.h"
 #include "ui/controls.h"
+#include "ui/event_texts.h"
 #include "ui/frame.h"
 #include "ui/layout.h"
+#include "ui/team_setup.h"
 #include "ui/text.h"
 #include "ui/texts.h"
 
@@ -93,6 +96,9 @@ constexpr ButtonLabel BUTTON_LABELS[] = {
     {&Texts::later,             dialogRightButton},
     {&Texts::defaultValues,     defaultButton},
     {&Texts::cancel,            settingsCancelButton},
+    {&Texts::scorecard,         listScorecardButton},
+    {&Texts::retry,             dialogLeftButton},
+    {&Texts::abort,             dialogRightButton},
 };
 
 // The label of a box or a circle, and where it has to end.
@@ -190,4 +196,71 @@ TEST(Gallery, TheBreakawayLabelDoesNotRunUnderTheExtraThrow)
     loadTexts();
     drawFrame();
     EXPECT_EQ(countPixels(screenshot(), below, pixelOf(disabledGrey)), 0);
+}
+
+namespace
+{
+
+// On the smallest screen, with as much to say as there can be.
+void setWordyScene(Scene scene, int language)
+{
+    setScene(scene, language);
+    if (scene == SCENE_DOPING_DRAW)
+        race.dopingNumber = filled<int, RIDER_COUNT>(3);
+    if (scene == SCENE_SAVE_FAILED)
+        raceSetup.raceFileName = std::string(20, 'W') + " " + std::string(200, 'W');
+    if (scene == SCENE_SETUP_MESSAGE)
+        teamSetup.setupMessages.back() = withName(texts.raceNameExists, "WWWWWWWWWWWW");
+}
+
+// Dark on the white of the box.
+int wordsIn(const Image& image, const Rect& rect)
+{
+    int dark = 0;
+    for (float y = rect.y; y < rect.y + rect.h; y += 1.0f)
+        for (float x = rect.x; x < rect.x + rect.w; x += 1.0f)
+            dark += image.at(x, y).green < 100 ? 1 : 0;
+    return dark;
+}
+
+} // namespace
+
+// A rim of each dialog stays free, and so does the place of its buttons.
+TEST(Gallery, WordsStayInTheirDialogs)
+{
+    constexpr float rim = 2.0f;
+    const OwnFolder folder;
+    startProgram(1024, 768);
+    const Rect box = dialogBox();
+    const Rect inside = {box.x, box.y, box.w, dialogOkButton().y - box.y};
+    for (int language = 0; language < LANGUAGE_COUNT; ++language)
+        for (const Scene scene :
+             {SCENE_SETUP_MESSAGE, SCENE_EVENT_CARD, SCENE_EVENT_NO_CARD, SCENE_DOPING,
+              SCENE_DOPING_NUMBER, SCENE_DOPING_DRAW, SCENE_COUNTERCHECK, SCENE_SAVE_FAILED}) {
+            setWordyScene(scene, language);
+            drawFrame();
+            const Image image = screenshot();
+            SCOPED_TRACE(std::string(nameOf(scene)) + " " + LANGUAGE_LETTERS[language]);
+            EXPECT_GT(wordsIn(image, inside), 100);
+            EXPECT_EQ(wordsIn(image, {box.x, box.y, rim, box.h}), 0);
+            EXPECT_EQ(wordsIn(image, {box.x + box.w - rim, box.y, rim, box.h}), 0);
+            EXPECT_EQ(wordsIn(image, {box.x, box.y, box.w, rim}), 0);
+            EXPECT_EQ(wordsIn(image, {box.x, inside.y + inside.h + 1.0f, box.w, rim}), 0);
+        }
+    settings = {};
+    loadTexts();
+}
+
+TEST(Gallery, NoEventCardIsWiderThanItsDialog)
+{
+    startProgram(1024, 768);
+    for (settings.language = 0; settings.language < LANGUAGE_COUNT; ++settings.language)
+        for (int card = 0; card < EVENT_CARD_COUNT; ++card) {
+            for (const std::string& line : eventTitle(card))
+                EXPECT_LT(static_cast<float>(textWidth(line, FONT_BODY)), dialogBox().w - 10.0f);
+            for (const std::string& line : eventEffect(card))
+                EXPECT_LT(static_cast<float>(textWidth(line, FONT_BODY)), dialogBox().w - 10.0f);
+        }
+    settings = {};
+    loadTexts();
 }

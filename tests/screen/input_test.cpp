@@ -8,6 +8,7 @@
 #include "screen/support/gl_window.h"
 #include "screen/support/player.h"
 #include "support/fake_host.h"
+#include "support/scripted_rand.h"
 #include "ui/controls.h"
 #include "ui/layout.h"
 #include "ui/texts.h"
@@ -71,6 +72,7 @@ TEST(Mouse, FromTheMenuToTheCoursesAndBack)
     player.click("Back");
     EXPECT_EQ(gameState, STATE_MAIN_MENU);
     player.click("Start");
+    player.click("Single stage");
     player.click("OK");
     EXPECT_EQ(gameState, STATE_COURSE_SELECT);
     player.click(dialogBox()); // between the pictures
@@ -85,6 +87,7 @@ TEST(Mouse, ATeamWithoutANameIsTold)
     raceSetup.teamName[2].clear();
     Player player;
     player.click("Start");
+    player.click("Single stage");
     player.click("OK");
     ASSERT_EQ(gameState, STATE_SETUP_MESSAGE);
     const Rect box = dialogBox();
@@ -209,6 +212,22 @@ TEST(Mouse, ADialogSlidesAlongTheEdgesAndStaysWhole)
     EXPECT_EQ(dialogTitleBar().y, kept) << "let go";
     player.click("No");
     EXPECT_EQ(gameState, STATE_ORDER_RESULT) << "the buttons went along";
+}
+
+// Dialogs have been dragged to where the button is that brings one up.
+TEST(Mouse, ADialogIsNotAnsweredByTheClickThatOpensIt)
+{
+    startPersonsTurn(0);
+    raceSetup.eventCardsOn = true;
+    const Rect box = dialogBox();
+    const Rect ok = dialogOkButton();
+    placeDialog(throwButton().x + box.x - ok.x, throwButton().y + box.y - ok.y);
+    const ScriptedRand dice{raceThrow(3, 4)};
+    Player player;
+    player.click("Throw");
+    EXPECT_EQ(gameState, STATE_EVENT_CARD);
+    player.click(throwButton());
+    EXPECT_NE(gameState, STATE_EVENT_CARD);
 }
 
 TEST(Mouse, AnotherTeamsCardsAreOnlyLookedAt)

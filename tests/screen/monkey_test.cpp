@@ -9,6 +9,7 @@
 #include "race/race_state.h"
 #include "race/soundness.h"
 #include "screen/support/gl_window.h"
+#include "store/race_file.h"
 #include "support/fake_host.h"
 #include "ui/controls.h"
 #include "ui/frame.h"
@@ -19,6 +20,7 @@
 
 #include <cstdlib>
 #include <filesystem>
+#include <fstream>
 #include <random>
 #include <string>
 
@@ -28,7 +30,7 @@
 namespace
 {
 
-constexpr int EVENTS = 20000;
+constexpr int EVENTS = 40000;
 constexpr int EVENTS_A_FRAME = 40; // painting is slow without a graphics card
 
 long numberFrom(const char* variable, long otherwise)
@@ -74,7 +76,7 @@ private:
     {
         switch (gameState) {
         case STATE_MAIN_MENU:
-            return clickOn(menuStartButton());
+            return clickOn(below(2) == 0 ? menuContinueButton() : menuStartButton());
         case STATE_TEAM_SETUP:
             return nameTeams();
         case STATE_COURSE_SELECT:
@@ -83,15 +85,48 @@ private:
         case STATE_COURSE_DESIGN:
             return clickOn(addSectionButton());
         case STATE_CONFIRM_QUIT:
+            return clickOn(below(20) == 0 ? dialogLeftButton() : dialogRightButton());
+        case STATE_SAVE_FAILED:
             return clickOn(dialogRightButton());
+        case STATE_RACE_FILES:
+            return chooseRace();
+        case STATE_EVENT_DIE:
+            return clickOn(extraThrowButton());
+        case STATE_EVENT_HANDIN:
+            pressFunctionKey();
+            return clickOn(handInOkButton());
+        case STATE_SKIP_HANDIN:
+            return clickOn(handInOkButton());
+        case STATE_CONFIRM_DOPING:
+        case STATE_EVENT_CARD_KIND:
+        case STATE_EVENT_CARD_WHEN:
+            return clickOn(dialogLeftButton());
+        case STATE_EVENT_CARD:
+        case STATE_EVENT_NO_CARD:
+        case STATE_NO_MOVE:
+        case STATE_SKIP_NO_CARD:
+        case STATE_DOPING_NUMBER:
+        case STATE_DOPING_DRAW:
+        case STATE_DOPING_COUNTERCHECK:
+            return clickOn(dialogOkButton());
         case STATE_ORDER_THROW:
         case STATE_ORDER_RESULT:
-        case STATE_TURN:
             return clickOn(throwButton());
+        case STATE_TURN:
+            return clickOn(below(4) == 0 ? dopingButton() : throwButton());
         case STATE_MOVE:
             return onSpecialUp(GLUT_KEY_LEFT + below(3), 0, 0);
         case STATE_PLACE_HUMAN:
+            onSpecialUp(GLUT_KEY_LEFT + below(4), 0, 0);
             return onKeyUp('\r', 0, 0);
+        case STATE_SETTINGS:
+            return clickOn(settingsCancelButton());
+        case STATE_SCORECARD:
+        case STATE_FINAL_SCORECARD:
+        case STATE_RACE_STANDINGS:
+            return clickOn(scorecardOkButton());
+        case STATE_POSITIONS:
+            return clickOn(positionsOkButton());
         default:
             return letTimePass();
         }
@@ -99,15 +134,24 @@ private:
 
     void nameTeams()
     {
-        raceSetup.multiStage = false;
+        raceSetup.multiStage = below(2) == 0;
+        raceSetup.raceName = "Race " + std::to_string(below(1000));
         for (std::string& name : raceSetup.teamName)
             if (name.empty())
                 name = "Somebody";
-        const int team = below(TEAM_COUNT);
-        if (!race.riders[team * RIDERS_PER_TEAM].isHuman)
-            clickOn(teamComputerBox(team));
+        clickOn(teamComputerBox(below(TEAM_COUNT)));
         clickOn(teamOkButton());
     }
+
+    void chooseRace()
+    {
+        const Rect names = raceListNames();
+        const Rect buttons[] = {listOkButton(), listScorecardButton(), cornerButton()};
+        clickOn({names.x, names.y + static_cast<float>(below(40)), 30.0f, 1.0f});
+        clickOn(buttons[below(3)]);
+    }
+
+    void pressFunctionKey() { onSpecialUp(GLUT_KEY_F1 + below(12), 0, 0); }
 
     void clickOn(const Rect& at)
     {
@@ -160,19 +204,23 @@ private:
     void clickControl()
     {
         const Rect controls[] = {
-            throwButton(),       throwButton(),         dialogOkButton(),  dialogLeftButton(),
-            dialogRightButton(), cornerButton(),        menuStartButton(), teamOkButton(),
-            coursePicture(0),    coursePicture(3),      newCourseButton(), savedCourseButton(),
-            addSectionButton(),  prevSectionButton(),   sprintBox(),       finishBox(),
-            sectionRadio(1),     saveCourseButton(),    savedOkButton(),   nextCourseButton(),
-            teamComputerBox(0),  teamComputerBox(2),    teamNameBox(1),    multiStageRadio(),
-            singleStageRadio(),  raceNameBox(),         cardPlace(0),      cardPlace(11),
-            dicePlace(0),        dicePlace(1),          breakawayBox(),    viewToggle(),
-            cameraButton(),      quitButton(),          settingsButton(),  menuSettingsButton(),
-            settingsOkButton(),  smoothRadio(),         stepwiseRadio(),   ratioRadio(1),
-            settingsField(0),    menuManualButton(),    nextPageButton(),  menuLanguageButton(),
-            languageBox(1),      languageBox(3),        teamTab(2),        scorecardOkButton(),
-            dialogTitleBar(),    settingsCancelButton()};
+            throwButton(),       throwButton(),          dialogOkButton(),   dialogLeftButton(),
+            dialogRightButton(), cornerButton(),         menuStartButton(),  teamOkButton(),
+            coursePicture(0),    coursePicture(3),       newCourseButton(),  savedCourseButton(),
+            addSectionButton(),  prevSectionButton(),    sprintBox(),        finishBox(),
+            sectionRadio(1),     saveCourseButton(),     savedOkButton(),    nextCourseButton(),
+            teamComputerBox(0),  teamComputerBox(2),     teamNameBox(1),     multiStageRadio(),
+            singleStageRadio(),  raceNameBox(),          cardPlace(0),       cardPlace(11),
+            dicePlace(0),        dicePlace(1),           breakawayBox(),     viewToggle(),
+            cameraButton(),      quitButton(),           settingsButton(),   menuSettingsButton(),
+            settingsOkButton(),  smoothRadio(),          stepwiseRadio(),    ratioRadio(1),
+            settingsField(0),    menuManualButton(),     nextPageButton(),   menuLanguageButton(),
+            languageBox(1),      languageBox(3),         teamTab(2),         scorecardOkButton(),
+            dialogTitleBar(),    settingsCancelButton(), scorecardButton(),  positionsButton(),
+            dopingButton(),      scorecardTitleBar(),    exportButton(),     generalViewButton(),
+            stageViewButton(),   prevStageButton(),      nextStageButton(),  eventCardsBox(),
+            raceListNames(),     listPrevButton(),       listNextButton(),   listOkButton(),
+            handInSlot(0),       handInOkButton(),       extraThrowButton(), listScorecardButton()};
         const Rect& at = controls[below(static_cast<int>(std::size(controls)))];
         clickAt(layout.viewX + static_cast<int>(at.x + at.w * 0.5f),
                 static_cast<int>(at.y + at.h * 0.5f));
@@ -219,6 +267,10 @@ std::string fault()
     for (const std::string& name : raceSetup.teamName)
         if (name.size() > NAME_LENGTH_MAX)
             return "a team's name is too long";
+    for (const StageRecord& stage : raceSetup.raceStages)
+        for (const int rider : stage.slots)
+            if (rider < -1 || rider >= RIDER_COUNT)
+                return "a stage was won by nobody known";
     if (courseText.size() > 27)
         return "the course is too long";
     if (view.shownTeam < 0 || view.shownTeam >= TEAM_COUNT || view.cameraIndex < 1 ||
@@ -259,6 +311,11 @@ TEST(Monkey, PressesAnythingAndNothingBreaks)
     const Folder folder;
     startProgram(640, 512);
     host.redraw = [] { ++fakeHost.redraws; };
+    // Races to go on with, one of them of no use.
+    for (int rider = 0; rider < RIDERS_PER_TEAM; ++rider)
+        race.riders[rider].isHuman = 1;
+    writeRace("Old.race");
+    std::ofstream("Noise.race") << std::string(3000, '\x5A');
     std::srand(static_cast<unsigned>(seed));
     Monkey monkey(static_cast<unsigned>(seed));
     Table<bool, STATE_COUNT> seen{};
@@ -270,7 +327,9 @@ TEST(Monkey, PressesAnythingAndNothingBreaks)
         if (event % EVENTS_A_FRAME == 0)
             drawFrame();
     }
-    for (const GameState state : {STATE_MAIN_MENU, STATE_TEAM_SETUP, STATE_COURSE_SELECT,
-                                  STATE_TURN, STATE_MOVE, STATE_ANIMATE, STATE_PLACE_HUMAN})
+    for (const GameState state :
+         {STATE_MAIN_MENU, STATE_TEAM_SETUP, STATE_COURSE_SELECT, STATE_TURN, STATE_MOVE,
+          STATE_ANIMATE, STATE_PLACE_HUMAN, STATE_EVENT_CARD, STATE_SCORECARD, STATE_POSITIONS,
+          STATE_RACE_FILES, STATE_DOPING_NUMBER})
         EXPECT_TRUE(seen[state]) << "never came to state " << state;
 }

@@ -34,11 +34,13 @@ TEST(Reshape, TheSecondSizeLooksAsIfItHadBeenTheFirst)
         startProgram(size.w, size.h);
         Player player;
         player.click("Start");
+        player.click("Single stage");
         player.click("OK");
         const Image direct = screenshot();
 
         startProgram(1280, 960);
         player.click("Start");
+        player.click("Single stage");
         player.click("OK");
         resizeScreen(size.w, size.h);
         EXPECT_EQ(gameState, STATE_COURSE_SELECT);
@@ -52,6 +54,7 @@ TEST(Reshape, EveryCourseIsClickedWhereItIsSeen)
         startProgram(size.w, size.h);
         Player player;
         player.click("Start");
+        player.click("Single stage");
         player.click("OK");
         for (int i = 0; i < fixedCourses.size(); ++i) {
             player.hover(coursePicture(i));

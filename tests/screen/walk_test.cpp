@@ -10,11 +10,13 @@
 #include "screen/support/gl_window.h"
 #include "screen/support/player.h"
 #include "screen/support/scenes.h"
+#include "store/race_file.h"
 #include "support/fake_host.h"
 #include "support/own_folder.h"
 #include "ui/controls.h"
 #include "ui/layout.h"
 #include "ui/manual_pages.h"
+#include "ui/race_list.h"
 #include "ui/settings_screen.h"
 #include "ui/team_setup.h"
 #include "ui/texts.h"
@@ -22,6 +24,7 @@
 #include <GL/freeglut.h>
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <cstdlib>
 #include <cstring>
 #include <filesystem>
@@ -46,12 +49,16 @@ enum Part : unsigned {
     PAGE = 32,
     PROGRAM = 64, // ends
     FILES = 128,
+    LIST = 256, // of races, and what the file of the one chosen holds
 };
 
 // clang-format off
-constexpr unsigned bit(Scene scene) { return 1u << scene; }
+using Scenes = std::uint64_t;
 
-constexpr unsigned
+constexpr Scenes bit(Scene scene) { return Scenes{1} << scene; }
+static_assert(SCENE_COUNT <= 64);
+
+constexpr Scenes
     MENU = bit(SCENE_MENU), LANGUAGES = bit(SCENE_LANGUAGES), MANUAL = bit(SCENE_MANUAL),
     OPTIONS = bit(SCENE_SETTINGS), TEAMS = bit(SCENE_TEAMS), NAMED = bit(SCENE_TEAMS_NAMED),
     MESSAGE = bit(SCENE_SETUP_MESSAGE), COURSES = bit(SCENE_COURSES), DESIGN = bit(SCENE_DESIGN),
@@ -59,11 +66,21 @@ constexpr unsigned
     THROW = bit(SCENE_ORDER_THROW), RESULT = bit(SCENE_ORDER_RESULT), PLACE = bit(SCENE_PLACE),
     TURN = bit(SCENE_TURN), CARD = bit(SCENE_TURN_WITH_CARD), MOVE = bit(SCENE_MOVE),
     ANIMATE = bit(SCENE_ANIMATE), FOLLOW = bit(SCENE_FOLLOW), NO_MOVE = bit(SCENE_NO_MOVE),
-    QUIT = bit(SCENE_QUIT), FINAL = bit(SCENE_FINAL);
+    QUIT = bit(SCENE_QUIT), FINAL = bit(SCENE_FINAL), EVENT = bit(SCENE_EVENT_CARD),
+    KIND = bit(SCENE_CARD_KIND), WHEN = bit(SCENE_CARD_WHEN), EXTRA_DIE = bit(SCENE_EVENT_DIE),
+    PAY = bit(SCENE_EVENT_HANDIN), NO_CARD = bit(SCENE_EVENT_NO_CARD), MISS = bit(SCENE_HANDIN),
+    MISS_ALL = bit(SCENE_SKIP_NO_CARD), DOPING = bit(SCENE_DOPING),
+    NUMBER = bit(SCENE_DOPING_NUMBER), DOPED = bit(SCENE_DOPED), DRAW = bit(SCENE_DOPING_DRAW),
+    CHECK = bit(SCENE_COUNTERCHECK), NOT_SAVED = bit(SCENE_SAVE_FAILED),
+    SHEET = bit(SCENE_SCORECARD), GENERAL = bit(SCENE_GENERAL), WHERE = bit(SCENE_POSITIONS),
+    RACES = bit(SCENE_RACES), CHOSEN = bit(SCENE_RACE_CHOSEN), SAVED_SHEET = bit(SCENE_STANDINGS);
 
-constexpr unsigned PANEL = THROW | RESULT | PLACE | TURN | CARD | MOVE | ANIMATE;
-constexpr unsigned LOOK = PANEL | FOLLOW;
-constexpr unsigned TABS = LOOK | NO_MOVE | QUIT;
+constexpr Scenes PANEL = THROW | RESULT | PLACE | TURN | CARD | DOPED | MOVE | ANIMATE | EXTRA_DIE | PAY | MISS;
+constexpr Scenes LOOK = (PANEL & ~PAY) | FOLLOW | EVENT | KIND | WHEN;
+constexpr Scenes TABS = LOOK | PAY | NO_MOVE | QUIT | NO_CARD | MISS_ALL | DOPING | NUMBER | DRAW | CHECK | NOT_SAVED;
+constexpr Scenes LAYING = TURN | CARD | DOPED | MISS;
+constexpr Scenes OVERLAYS = SHEET | GENERAL | WHERE;
+constexpr Scenes SHEETS = SHEET | GENERAL | SAVED_SHEET;
 // clang-format on
 
 constexpr GameState SAME = static_cast<GameState>(STATE_COUNT); // the state stays
@@ -75,7 +92,7 @@ struct Effect {
 };
 
 struct ControlAct {
-    unsigned scenes;
+    Scenes scenes;
     Rect (*at)();
     Effect effect;
 };
@@ -87,6 +104,7 @@ const ControlAct CONTROL_ACTS[] = {
     {MENU,              menuManualButton,                    {STATE_MANUAL}},
     {MENU,              menuSettingsButton,                  {STATE_SETTINGS}},
     {MENU,              menuStartButton,                     {STATE_TEAM_SETUP}},
+    {MENU,              menuContinueButton,                  {STATE_RACE_FILES, NOTHING, LIST}},
     {MENU,              exitButton,                          {SAME, PROGRAM}},
     {LANGUAGES,         [] { return languageBox(0); },       {STATE_MAIN_MENU, SETTINGS | FILES}},
     {LANGUAGES,         [] { return languageBox(1); },       {STATE_MAIN_MENU, SETTINGS | FILES}},
@@ -115,8 +133,9 @@ const ControlAct CONTROL_ACTS[] = {
     {NAMED,             multiStageRadio,                     {SAME, SETUP}},
     {TEAMS,             singleStageRadio,                    {SAME, SETUP}},
     {TEAMS,             raceNameBox,                         {SAME, SETUP}},
+    {TEAMS | NAMED,     eventCardsBox,                       {SAME, SETUP}},
     {TEAMS,             teamOkButton,                        {STATE_SETUP_MESSAGE, SETUP}},
-    {NAMED,             teamOkButton,                        {STATE_COURSE_SELECT}},
+    {NAMED,             teamOkButton,                        {STATE_COURSE_SELECT, SETUP}},
     {TEAMS | NAMED,     cornerButton,                        {STATE_MAIN_MENU}},
     {MESSAGE,           dialogOkButton,                      {STATE_TEAM_SETUP}},
     {COURSES,           [] { return courseCell(0); },        {STATE_ORDER_RESULT, RACE | COURSE}},
@@ -140,23 +159,58 @@ const ControlAct CONTROL_ACTS[] = {
     {SAVED,             savedBackButton,                     {STATE_COURSE_SELECT}},
     {THROW,             throwButton,                         {STATE_ORDER_RESULT, RACE}},
     {RESULT,            throwButton,                         {SAME, RACE}},
-    {TURN | CARD,       throwButton,                         {STATE_MOVE, RACE}},
-    {TURN | CARD,       [] { return cardPlace(0); },         {SAME, RACE}},
-    {TURN | CARD,       [] { return cardPlace(1); },         {SAME, RACE}},
-    {TURN | CARD,       [] { return cardPlace(2); },         {SAME, RACE}},
-    {TURN | CARD,       [] { return cardPlace(3); },         {SAME, RACE}},
-    {TURN | CARD,       [] { return cardPlace(10); },        {SAME, RACE}},
-    {TURN | CARD,       [] { return cardPlace(11); },        {SAME, RACE}},
-    {TURN,              [] { return cardPlace(12); },        {SAME, RACE}},
-    {TURN | CARD,       [] { return cardPlace(13); },        {SAME, RACE}},
+    {TURN | CARD | DOPED, throwButton,                       {STATE_MOVE, RACE}},
+    {TURN | CARD,       dopingButton,                        {STATE_CONFIRM_DOPING}},
+    {DOPING,            dialogLeftButton,                    {STATE_DOPING_NUMBER, RACE}},
+    {DOPING,            dialogRightButton,                   {STATE_TURN}},
+    {NUMBER,            dialogOkButton,                      {STATE_TURN, RACE}},
+    {LAYING,            [] { return cardPlace(0); },         {SAME, RACE}},
+    {LAYING,            [] { return cardPlace(1); },         {SAME, RACE}},
+    {LAYING,            [] { return cardPlace(2); },         {SAME, RACE}},
+    {LAYING,            [] { return cardPlace(3); },         {SAME, RACE}},
+    {LAYING,            [] { return cardPlace(10); },        {SAME, RACE}},
+    {LAYING,            [] { return cardPlace(11); },        {SAME, RACE}},
+    {TURN | DOPED,      [] { return cardPlace(12); },        {SAME, RACE}},
+    {LAYING,            [] { return cardPlace(13); },        {SAME, RACE}},
     {CARD,              [] { return dicePlace(0); },         {SAME, RACE}},
-    {CARD,              breakawayBox,                        {SAME, RACE}},
+    {CARD | DOPED,      breakawayBox,                        {SAME, RACE}},
     {FOLLOW,            dialogLeftButton,                    {STATE_TURN, RACE | VIEW}},
     {FOLLOW,            dialogRightButton,                   {STATE_TURN, RACE}},
     {NO_MOVE,           dialogOkButton,                      {STATE_TURN, RACE | VIEW}},
     {QUIT,              dialogLeftButton,                    {STATE_MAIN_MENU}},
     {QUIT,              dialogRightButton,                   {STATE_ORDER_RESULT}},
+    {EVENT,             dialogOkButton,                      {STATE_SKIP_HANDIN, RACE}},
+    {KIND,              dialogLeftButton,                    {STATE_EVENT_CARD_WHEN, RACE}},
+    {KIND,              dialogRightButton,                   {STATE_EVENT_CARD_WHEN, RACE}},
+    {WHEN,              dialogLeftButton,                    {STATE_MOVE, RACE}},
+    {WHEN,              dialogRightButton,                   {STATE_MOVE, RACE}},
+    {EXTRA_DIE,         extraThrowButton,                    {STATE_MOVE, RACE}},
+    {NO_CARD,           dialogOkButton,                      {STATE_MOVE}},
+    {PAY,               handInOkButton,                      {STATE_MOVE, RACE}},
+    {MISS,              handInOkButton,                      {STATE_TURN, RACE | VIEW}},
+    {PAY | MISS,        [] { return handInSlot(0); },        {SAME, RACE}},
+    {MISS_ALL,          dialogOkButton,                      {STATE_TURN, RACE | VIEW}},
+    {DRAW,              dialogOkButton,                      {STATE_DOPING_COUNTERCHECK, RACE}},
+    {CHECK,             dialogOkButton,                      {SAME, RACE}},
+    {NOT_SAVED,         dialogRightButton,                   {STATE_FINAL_SCORECARD}},
     {FINAL,             scorecardOkButton,                   {STATE_MAIN_MENU}},
+    {FINAL | SHEETS,    exportButton,                        {SAME, VIEW | FILES}},
+    {SHEET | GENERAL,   scorecardOkButton,                   {STATE_TURN}},
+    {SAVED_SHEET,       scorecardOkButton,                   {STATE_RACE_FILES}},
+    {SHEET | SAVED_SHEET, generalViewButton,                 {SAME, VIEW}},
+    {GENERAL,           stageViewButton,                     {SAME, VIEW}},
+    {SHEET,             prevStageButton,                     {SAME, VIEW}},
+    {SHEET | SAVED_SHEET, nextStageButton,                   {SAME, VIEW}},
+    {WHERE,             positionsOkButton,                   {STATE_TURN}},
+    {RACES,             raceListNames,                       {SAME, SETUP | LIST}},
+    {CHOSEN,            raceListNames,                       {SAME, NOTHING, SETUP}},
+    {RACES | CHOSEN,    listPrevButton,                      {SAME, LIST}},
+    {RACES | CHOSEN,    listNextButton,                      {SAME, LIST}},
+    {RACES | CHOSEN,    cornerButton,                        {STATE_MAIN_MENU}},
+    {CHOSEN,            listOkButton,                        {STATE_COURSE_SELECT, SETUP | RACE}},
+    {CHOSEN,            listScorecardButton,                 {STATE_RACE_STANDINGS}},
+    {PANEL,             scorecardButton,                     {STATE_SCORECARD}},
+    {PANEL,             positionsButton,                     {STATE_POSITIONS}},
     {PANEL,             settingsButton,                      {STATE_SETTINGS}},
     {PANEL,             quitButton,                          {STATE_CONFIRM_QUIT}},
     {LOOK,              viewToggle,                          {SAME, VIEW}},
@@ -168,7 +222,7 @@ const ControlAct CONTROL_ACTS[] = {
 };
 
 struct KeyAct {
-    unsigned scenes;
+    Scenes scenes;
     Table<std::string_view, LANGUAGE_COUNT> keys;
     Effect effect;
 };
@@ -191,6 +245,7 @@ const KeyAct KEY_ACTS[] = {
     {MENU,                {{"aA", "mM", "nN", "hH"}},     {STATE_MANUAL}},
     {MENU,                {{"eE", "tT", "pP", "iI"}},     {STATE_SETTINGS}},
     {MENU,                {{"pP", "lL", "hH", "tT"}},     {STATE_LANGUAGE}},
+    {MENU,                {{"wW", "cC", "tT", "vV"}},     {STATE_RACE_FILES, NOTHING, LIST}},
     {MENU,                {{"bB", "eE", "fF", "eE"}},     {SAME, PROGRAM}},
     {MANUAL,              everywhere("\r "),              {SAME, PAGE}},
     {MANUAL,              everywhere("\x1boO"),           {STATE_MAIN_MENU}},
@@ -205,8 +260,33 @@ const KeyAct KEY_ACTS[] = {
     {DESIGNED,            everywhere("\r oO"),            {STATE_ORDER_RESULT, RACE | COURSE}},
     {THROW,               {{"wW", "tT", "jJ", "gG"}},     {STATE_ORDER_RESULT, RACE}},
     {RESULT,              {{"nN", "nN", "uU", "vV"}},     {SAME, RACE}},
-    {TURN | CARD,         {{"wW", "tT", "jJ", "gG"}},     {STATE_MOVE, RACE}},
-    {CARD,                {{"aA", "bB", "dD", "dD"}},     {SAME, RACE}},
+    {TURN | CARD | DOPED, {{"wW", "tT", "jJ", "gG"}},     {STATE_MOVE, RACE}},
+    {CARD | DOPED,        {{"aA", "bB", "dD", "dD"}},     {SAME, RACE}},
+    {TURN | CARD,         {{"dD", "dD", "oO", "oO"}},     {STATE_CONFIRM_DOPING}},
+    {DOPING,              {{"jJ", "yY", "oO", "jJ"}},     {STATE_DOPING_NUMBER, RACE}},
+    {DOPING,              everywhere("nN"),               {STATE_TURN}},
+    {NUMBER,              everywhere("\r oO"),            {STATE_TURN, RACE}},
+    {EVENT,               everywhere("\r oO"),            {STATE_SKIP_HANDIN, RACE}},
+    {KIND,                {{"bB", "bB", "eE", "bB"}},     {STATE_EVENT_CARD_WHEN, RACE}},
+    {KIND,                {{"wW", "wW", "aA", "wW"}},     {STATE_EVENT_CARD_WHEN, RACE}},
+    {WHEN,                {{"", "iI", "tT", "dD"}},       {STATE_MOVE, RACE}},
+    {WHEN,                {{"", "lL", "pP", "lL"}},       {STATE_MOVE, RACE}},
+    {WHEN,                {{"", "", "pP", ""}},           {STATE_POSITIONS}}, // both of its meanings
+    {EXTRA_DIE,           {{"wW", "tT", "jJ", "gG"}},     {STATE_MOVE, RACE}},
+    {NO_CARD,             everywhere("\r oO"),            {STATE_MOVE}},
+    {PAY,                 everywhere("\r oO"),            {STATE_MOVE, RACE}},
+    {MISS | MISS_ALL,     everywhere("\r oO"),            {STATE_TURN, RACE | VIEW}},
+    {DRAW,                everywhere("\r oO"),            {STATE_DOPING_COUNTERCHECK, RACE}},
+    {CHECK,               everywhere("\r oO"),            {SAME, RACE}},
+    {NOT_SAVED,           everywhere("aA"),               {STATE_FINAL_SCORECARD}},
+    {OVERLAYS,            everywhere("\r oO"),            {STATE_TURN}},
+    {SAVED_SHEET,         everywhere("\r oO"),            {STATE_RACE_FILES}},
+    {FINAL | SHEETS,      everywhere("xX"),               {SAME, VIEW | FILES}},
+    {SHEET | SAVED_SHEET, {{"gG", "gG", "gG", "tT"}},     {SAME, VIEW}},
+    {GENERAL,             {{"eE", "sS", "eE", "eE"}},     {SAME, VIEW}},
+    {RACES | CHOSEN,      {{"zZ", "bB", "rR", "tT"}},     {STATE_MAIN_MENU}},
+    {CHOSEN,              everywhere("oO"),               {STATE_COURSE_SELECT, SETUP | RACE}},
+    {CHOSEN,              everywhere("sS"),               {STATE_RACE_STANDINGS}},
     {PLACE,               everywhere("\r "),              {SAME, RACE}},
     {MOVE,                everywhere("\r "),              {STATE_TURN, RACE}},
     {MOVE,                everywhere("uU"),               {SAME, RACE}},
@@ -218,11 +298,13 @@ const KeyAct KEY_ACTS[] = {
     {FINAL,               {{"uU", "qQ", "qQ", "tT"}},     {STATE_MAIN_MENU}},
     {PANEL,               {{"uU", "qQ", "qQ", "tT"}},     {STATE_CONFIRM_QUIT}},
     {PANEL,               {{"eE", "eE", "aA", "iI"}},     {STATE_SETTINGS}},
+    {PANEL,               everywhere("sS"),               {STATE_SCORECARD}},
+    {PANEL,               everywhere("pP"),               {STATE_POSITIONS}},
     {TABS,                everywhere("\t"),               {SAME, VIEW}},
 };
 
 struct SpecialAct {
-    unsigned scenes;
+    Scenes scenes;
     int first, last;
     Effect effect;
 };
@@ -236,7 +318,10 @@ const SpecialAct SPECIAL_ACTS[] = {
     {TEAMS | NAMED,   GLUT_KEY_HOME,      GLUT_KEY_END,        {SAME, SETUP}},
     {PLACE,           GLUT_KEY_LEFT,      GLUT_KEY_DOWN,       {SAME, RACE}},
     {MOVE,            GLUT_KEY_LEFT,      GLUT_KEY_DOWN,       {SAME, RACE}},
-    {TURN | CARD,     GLUT_KEY_F1,        GLUT_KEY_F8,         {SAME, RACE}},
+    {LAYING,          GLUT_KEY_F1,        GLUT_KEY_F8,         {SAME, RACE}},
+    {PAY,             GLUT_KEY_F7,        GLUT_KEY_F7,         {SAME, RACE}},
+    {SHEET,           GLUT_KEY_LEFT,      GLUT_KEY_LEFT,       {SAME, VIEW}},
+    {SHEET | SAVED_SHEET, GLUT_KEY_RIGHT, GLUT_KEY_RIGHT,      {SAME, VIEW}},
 };
 // clang-format on
 
@@ -256,7 +341,7 @@ template <typename T> void takeBytes(T& record, const std::string& bytes)
 std::uintmax_t sizeOfFiles()
 {
     std::uintmax_t size = 0;
-    for (const char* file : {"courses", "settings"})
+    for (const char* file : {"courses", "settings", "standings.csv"})
         size += std::filesystem::exists(file) ? std::filesystem::file_size(file) : 0;
     return size;
 }
@@ -274,6 +359,9 @@ struct World {
     SettingsScreen settingsFields = settingsScreen;
     std::string courseLetters = courseText;
     CourseScreens screens = courseScreens;
+    int races = static_cast<int>(raceList.raceFileList.size());
+    int listPage = raceList.raceListPage;
+    RaceHead preview = racePreview;
     View seen = view;
     int page = manualPage;
     int quits = fakeHost.quits;
@@ -285,8 +373,10 @@ auto setupOf(const World& world)
 {
     const RaceSetup& race = world.setup;
     const TeamSetup& fields = world.setupFields;
-    return std::tie(race.teamName, race.multiStage, race.eventCardsOn, race.raceName,
-                    fields.teamActiveField, fields.teamCursor, fields.setupMessages);
+    return std::tuple(race.teamName, race.multiStage, race.eventCardsOn, race.raceName,
+                      race.raceFileName, race.raceBaseName, race.standingsFileName,
+                      race.raceStages.size(), fields.teamActiveField, fields.teamCursor,
+                      fields.setupMessages);
 }
 
 auto settingsOf(const World& world)
@@ -299,6 +389,12 @@ auto settingsOf(const World& world)
 auto courseOf(const World& world)
 {
     return std::tuple(world.courseLetters, world.screens);
+}
+
+auto listOf(const World& world)
+{
+    return std::tie(world.races, world.listPage, world.preview.eventCardsOn, world.preview.teamName,
+                    world.preview.isHuman);
 }
 
 // Where a box was taken hold of is of no account once it is let go.
@@ -318,6 +414,7 @@ unsigned changedParts(const World& before, const World& now)
     note(settingsOf(before) == settingsOf(now), SETTINGS);
     note(courseOf(before) == courseOf(now), COURSE);
     note(viewOf(before) == viewOf(now), VIEW);
+    note(listOf(before) == listOf(now), LIST);
     note(before.page == now.page, PAGE);
     note(before.quits == now.quits, PROGRAM);
     note(before.files == now.files, FILES);
@@ -364,6 +461,7 @@ private:
     void begin()
     {
         std::filesystem::remove("settings");
+        std::filesystem::remove("standings.csv");
         settings.ratioW = 5.0;
         settings.ratioH = 4.0;
         setScene(scene, language);
@@ -466,7 +564,7 @@ const Named CONTROLS[] = {
     CONTROL(dialogLeftButton), CONTROL(dialogRightButton), CONTROL(viewToggle),
     CONTROL(cameraButton), CONTROL(scorecardButton), CONTROL(positionsButton),
     CONTROL(dopingButton), CONTROL(settingsButton), CONTROL(quitButton), CONTROL(cardPanel),
-    CONTROL(teamTabs), CONTROL(breakawayBox), CONTROL(throwButton), CONTROL(handInOkButton),
+    CONTROL(breakawayBox), CONTROL(throwButton), CONTROL(handInOkButton),
     CONTROL(extraCardSlot), CONTROL(extraDicePlace), CONTROL(extraThrowButton),
     CONTROL(menuLanguageButton), CONTROL(menuManualButton), CONTROL(menuSettingsButton),
     CONTROL(menuContinueButton), CONTROL(menuStartButton), CONTROL(exitButton),

@@ -1,3 +1,5 @@
+#include "race/event_deck.h"
+#include "ui/event_texts.h"
 #include "ui/glyphs.h"
 #include "ui/layout.h"
 #include "ui/manual_pages.h"
@@ -151,6 +153,12 @@ TEST_F(TextsTest, EveryLetterHasAGlyphInItsFont)
         for (const std::string& title : {texts.mainMenuTitle, texts.teamSetupTitle,
                                          texts.courseSelectionTitle, texts.settings})
             expectDrawable(title, FONT_TITLE);
+        for (int card = 0; card < EVENT_CARD_COUNT; ++card) {
+            for (const std::string& line : eventTitle(card))
+                expectDrawable(line, FONT_BODY);
+            for (const std::string& line : eventEffect(card))
+                expectDrawable(line, FONT_BODY);
+        }
         expectDrawable(languageNames[language], FONT_SERIF);
         expectDrawable(manualText, FONT_TITLE);
         // A quote measures 0, so the word behind it would be drawn over it.

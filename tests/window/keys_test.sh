@@ -26,8 +26,7 @@ hold s
 pixelIs startEdge B2B2B2 || fail "a key acted before it was released"
 xdotool keyup s
 until_ 5 "the team setup" pixelIs setupOkEdge B2B2B2
-click setupOk
-until_ 5 "the courses" pixelIs cornerEdge B2B2B2
+chooseOneStage
 point firstCourse
 until_ 5 "the frame round the course" pixelIs courseFrame FFFFFF
 click firstCourse

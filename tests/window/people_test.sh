@@ -27,6 +27,8 @@ findPeoplesControls()
             put("firstName", v * 0.4 + 3, h * 0.4 + 7)
             put("firstComputer", v * 0.4 + 97 * 1.2 + 3, h * 0.41)
             put("firstComputerMiddle", v * 0.4 + 97 * 1.2 + h * 0.01, h * 0.41)
+            put("eventBox", v * 0.4 + 3, h * 0.655)
+            put("eventBoxMiddle", v * 0.4 + h * 0.01, h * 0.655)
             put("add", v * 0.5, h * 0.915)
             put("finishBox", v * 0.45 + 4, h * 0.885)
             put("finishMiddle", v * 0.45 + h * 0.01, h * 0.885)
@@ -228,8 +230,9 @@ play()
     press s
     until_ 5 "the team setup" pixelIs setupOkEdge B2B2B2
     nameTeam
-    click setupOk
-    until_ 5 "the courses" pixelIs cornerEdge B2B2B2
+    click eventBox
+    until_ 5 "a race without event cards" pixelIs eventBoxMiddle FFFFFF
+    chooseOneStage
     designCourse
     placeRiders
     shot placed

@@ -9,12 +9,15 @@
 #include "board/designer.h"
 #include "board/rider_motion.h"
 #include "race/race_state.h"
+#include "store/race_file.h"
 #include "support/fake_host.h"
 #include "ui/frame.h"
 #include "ui/layout.h"
 #include "ui/loading.h"
 #include "ui/matrices.h"
+#include "ui/race_list.h"
 #include "ui/reshape.h"
+#include "ui/team_setup.h"
 #include "ui/texts.h"
 #include "ui/textures.h"
 
@@ -77,6 +80,9 @@ static void forgetEverything()
     settings = {};
     ratioChosenByProgram = false;
     raceSetup = {};
+    teamSetup = {};
+    raceList = {};
+    racePreview = {};
     course = {};
     courseText.clear();
     courseScreens = {};

@@ -10,13 +10,17 @@
 #include "board/geometry.h"
 #include "input/actions.h"
 #include "race/cards.h"
+#include "race/doping.h"
+#include "race/event_deck.h"
 #include "race/movement.h"
 #include "race/race_state.h"
 #include "race/start.h"
 #include "store/courses_file.h"
+#include "store/race_file.h"
 #include "support/fake_host.h"
 #include "support/races.h"
 #include "ui/manual_pages.h"
+#include "ui/race_list.h"
 #include "ui/settings_screen.h"
 #include "ui/team_setup.h"
 #include "ui/texts.h"
@@ -178,7 +182,166 @@ void finish()
 {
     for (int slot = 0; slot < RESULT_SLOT_COUNT; ++slot)
         race.resultSlots[slot] = slot * 5 % RIDER_COUNT;
+    raceSetup.standingsFileName = "standings.csv";
     gameState = STATE_FINAL_SCORECARD;
+}
+
+void draw14()
+{
+    waitForThrow();
+    race.dice = {3, 4};
+    race.movesTotal = race.moveBudget = 7;
+    race.pathSquares[0] = {10.0f, 0.0f};
+    for (int card = 0; card < EVENT_CARD_COUNT; ++card)
+        deck.eventDeck[card] = (card + 14) % EVENT_CARD_COUNT;
+    deck.eventCardPos = 0;
+    gameState = STATE_EVENT_CARD;
+}
+
+template <GameState STATE> void answerEvent()
+{
+    draw14();
+    gameState = STATE;
+}
+
+void putUpCard()
+{
+    answerEvent<STATE_EVENT_HANDIN>();
+    pickCard(12);
+}
+
+void missTurns()
+{
+    answerEvent<STATE_SKIP_HANDIN>();
+    race.eventRider = 0;
+    race.riders[0].skipTurns = 2;
+    pickCard(12);
+}
+
+void missTurnsWithoutCard()
+{
+    answerEvent<STATE_SKIP_NO_CARD>();
+    race.eventRider = 0;
+    race.riders[0].skipTurns = 2;
+    race.cardUsed[0] = filled<int, CARD_SLOT_COUNT>(CARD_SPENT);
+}
+
+void chooseWhen()
+{
+    answerEvent<STATE_EVENT_CARD_KIND>();
+    receiveWonCard(WHITE_CARD);
+}
+
+void thinkOfDoping()
+{
+    waitForThrow();
+    returnState = STATE_TURN;
+    gameState = STATE_CONFIRM_DOPING;
+}
+
+void dope()
+{
+    waitForThrow();
+    race.dopingNumber[0] = 4;
+    gameState = STATE_DOPING_NUMBER;
+}
+
+void takeDope()
+{
+    dope();
+    takeDopingCard();
+    race.bonusMoves = WHITE_CARD;
+    race.extraDie = 3;
+    race.extraMoves = 4;
+}
+
+void control()
+{
+    finish();
+    for (int rider = 0; rider < RIDER_COUNT; ++rider)
+        race.dopingNumber[rider] = rider % 3 + 1;
+    race.dopingDraw = {3, 1};
+    race.anyDoping = 1;
+    race.currentRider = -1;
+    gameState = STATE_DOPING_DRAW;
+}
+
+void countercheck()
+{
+    control();
+    race.currentRider = 2;
+    race.counterDie = 5;
+    race.riders[2].disqualified = 1;
+    gameState = STATE_DOPING_COUNTERCHECK;
+}
+
+void rideTwoStages()
+{
+    finish();
+    StageRecord record;
+    record.slots = race.resultSlots;
+    raceSetup.multiStage = true;
+    raceSetup.raceName = raceSetup.raceBaseName = "Tour";
+    raceSetup.standingsFileName = "standings.csv";
+    raceSetup.raceStages = {record, record};
+}
+
+void failToSave()
+{
+    rideTwoStages();
+    raceSetup.raceFileName = "no such folder here/Tour.race";
+    returnState = STATE_RACE_CLOSED;
+    gameState = STATE_SAVE_FAILED;
+}
+
+void openSecondStage()
+{
+    rideTwoStages();
+    returnState = STATE_TURN;
+    view.scorecardStage = 1;
+    gameState = STATE_SCORECARD;
+}
+
+void openGeneral()
+{
+    openSecondStage();
+    view.scorecardGeneral = true;
+}
+
+// On the second of seven columns.
+void listRaces()
+{
+    rideTwoStages();
+    raceSetup.eventCardsOn = false;
+    raceSetup.teamName[1] = "Rockets";
+    makeHuman(1);
+    if (!std::filesystem::exists("Tour 0.race")) {
+        writeRace("Tour 0.race");
+        for (int i = 1; i < 125; ++i)
+            std::filesystem::copy_file("Tour 0.race", "Tour " + std::to_string(i) + ".race");
+    }
+    race.riders[4].isHuman = 0;
+    raceSetup.raceStages.clear();
+    raceSetup.raceBaseName.clear();
+    raceSetup.standingsFileName.clear();
+    openRaceList();
+    raceList.raceListPage = 1;
+    gameState = STATE_RACE_FILES;
+}
+
+void chooseFromList()
+{
+    listRaces();
+    nameRaceFiles(raceBaseNameOf(raceList.raceFileList[45]));
+    readRacePreview(raceSetup.raceFileName);
+}
+
+void openStandings()
+{
+    chooseFromList();
+    raceSetup.standingsFileName = "standings.csv";
+    returnState = STATE_RACE_FILES;
+    gameState = STATE_RACE_STANDINGS;
 }
 
 void nothing() {}
@@ -214,6 +377,26 @@ constexpr Table<SceneRecord, SCENE_COUNT> scenes = {{
     {"no_move",         personsRide,    findNoWay},
     {"quit",            computersThrow, openQuitConfirm},
     {"final",           computersThrow, finish},
+    {"event_card",      personsRide,    draw14},
+    {"card_kind",       personsRide,    answerEvent<STATE_EVENT_CARD_KIND>},
+    {"card_when",       personsRide,    chooseWhen},
+    {"event_die",       personsRide,    answerEvent<STATE_EVENT_DIE>},
+    {"event_handin",    personsRide,    putUpCard},
+    {"event_no_card",   personsRide,    answerEvent<STATE_EVENT_NO_CARD>},
+    {"handin",          personsRide,    missTurns},
+    {"skip_no_card",    personsRide,    missTurnsWithoutCard},
+    {"doping",          personsRide,    thinkOfDoping},
+    {"doping_number",   personsRide,    dope},
+    {"doped",           personsRide,    takeDope},
+    {"doping_draw",     personsRide,    control},
+    {"countercheck",    personsRide,    countercheck},
+    {"save_failed",     computersThrow, failToSave},
+    {"scorecard",       personsRide,    openSecondStage},
+    {"general",         personsRide,    openGeneral},
+    {"positions",       personsRide,    [] { waitForThrow(); openPositions(); }},
+    {"races",           nothing,        listRaces},
+    {"race_chosen",     nothing,        chooseFromList},
+    {"standings",       nothing,        openStandings},
 }};
 // clang-format on
 
@@ -237,6 +420,9 @@ void setScene(Scene scene, int language)
     view = {};
     teamSetup = {};
     settingsScreen = {};
+    raceList = {};
+    racePreview = {};
+    deck = {};
     manualPage = 0;
     returnState = STATE_TRANSIT;
     gameState = STATE_MAIN_MENU;

@@ -26,11 +26,31 @@ enum Scene {
     SCENE_NO_MOVE,
     SCENE_QUIT, // in the throws for the order
     SCENE_FINAL,
+    SCENE_EVENT_CARD, // the one with the most words
+    SCENE_CARD_KIND,
+    SCENE_CARD_WHEN,
+    SCENE_EVENT_DIE,
+    SCENE_EVENT_HANDIN, // a card put up
+    SCENE_EVENT_NO_CARD,
+    SCENE_HANDIN, // two turns to miss, one card put up
+    SCENE_SKIP_NO_CARD,
+    SCENE_DOPING,
+    SCENE_DOPING_NUMBER,
+    SCENE_DOPED,       // the doping card in place of the first die, a bonus card in use
+    SCENE_DOPING_DRAW, // two thirds of the riders caught
+    SCENE_COUNTERCHECK,
+    SCENE_SAVE_FAILED, // in a folder that isn't there
+    SCENE_SCORECARD,   // in the third stage of a race, on the second
+    SCENE_GENERAL,
+    SCENE_POSITIONS,
+    SCENE_RACES, // no race chosen, more to either side
+    SCENE_RACE_CHOSEN,
+    SCENE_STANDINGS,
     SCENE_COUNT,
 };
 
 const char* nameOf(Scene scene);
 
 // Sets the scene up in a language, on the screen as startProgram left it. Nothing is painted until
-// drawFrame, and time stands still. Writes the file "courses" for the saved courses.
+// drawFrame, and time stands still. Writes the file "courses" for the saved courses and race files.
 void setScene(Scene scene, int language);

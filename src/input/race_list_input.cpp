@@ -1,0 +1,92 @@
+#include "input/race_list_input.h"
+
+#include "app/game_state.h"
+#include "app/host.h"
+#include "app/overlays.h"
+#include "app/view.h"
+#include "input/actions.h"
+#include "race/race_state.h"
+#include "store/race_file.h"
+#include "ui/access_keys.h"
+#include "ui/controls.h"
+#include "ui/race_list.h"
+
+#include <algorithm>
+
+void openRaceFiles()
+{
+    raceSetup.multiStage = true;
+    forgetRaceFiles();
+    openRaceList();
+    enter(STATE_RACE_FILES);
+}
+
+// The page of the scorecard that was looked at last stays in view, as far as this race has it.
+static void keepStageWithinRace()
+{
+    const int last = static_cast<int>(raceSetup.raceStages.size()) - 1;
+    view.scorecardStage = std::clamp(view.scorecardStage, 0, std::max(0, last));
+}
+
+static void previewRace()
+{
+    readRacePreview(raceSetup.raceFileName);
+    keepStageWithinRace();
+}
+
+static void chooseRace(int entry)
+{
+    nameRaceFiles(raceBaseNameOf(raceList.raceFileList[static_cast<std::size_t>(entry)]));
+    previewRace();
+    redrawNow();
+}
+
+static void continueRace()
+{
+    if (!raceChosen())
+        return;
+    readRace(raceSetup.raceFileName);
+    keepStageWithinRace();
+    goToCourses();
+}
+
+static void openStandings()
+{
+    if (!raceChosen())
+        return;
+    previewRace();
+    returnState = gameState;
+    enter(STATE_RACE_STANDINGS);
+}
+
+static void turnList(int columns)
+{
+    raceList.raceListPage += columns;
+    redrawNow();
+}
+
+void releaseInRaceFiles(int x, int y)
+{
+    if (listOkButton().contains(x, y))
+        continueRace();
+    else if (listScorecardButton().contains(x, y))
+        openStandings();
+    else if (cornerButton().contains(x, y))
+        toMainMenu();
+    else if (const int entry = raceEntryAt(x, y); entry != -1)
+        chooseRace(entry);
+    else if (listPrevButton().contains(x, y) && racesBefore())
+        turnList(-1);
+    else if (listNextButton().contains(x, y) && racesBehind())
+        turnList(1);
+}
+
+void keyInRaceFiles(unsigned char key)
+{
+    if (key == 'o' || key == 'O')
+        continueRace();
+    else if (isAccessKey(CONTROL_SCORECARD, key))
+        openStandings();
+    else if (isAccessKey(CONTROL_COURSE_BACK, key))
+        toMainMenu();
+}

@@ -1,0 +1,96 @@
+#include "board/pictures.h"
+#include "support/own_folder.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <string>
+
+// Road and rules can't disagree as long as the pictures are what the painter makes of the tables.
+
+namespace
+{
+
+struct PictureFile {
+    const char* name;
+    int width;
+    int height;
+};
+
+constexpr PictureFile FILES[] = {{"board.dat", BOARD_PICTURE_WIDTH, BOARD_PICTURE_HEIGHT},
+                                 {"cyclist0.dat", RIDER_PICTURE_SIZE, RIDER_PICTURE_SIZE},
+                                 {"cyclist1.dat", RIDER_PICTURE_SIZE, RIDER_PICTURE_SIZE},
+                                 {"cyclist2.dat", RIDER_PICTURE_SIZE, RIDER_PICTURE_SIZE},
+                                 {"cyclist3.dat", RIDER_PICTURE_SIZE, RIDER_PICTURE_SIZE},
+                                 {"cyclist4.dat", RIDER_PICTURE_SIZE, RIDER_PICTURE_SIZE},
+                                 {"scorecard.dat", SCORECARD_PICTURE_SIZE, SCORECARD_PICTURE_SIZE}};
+
+// Fonts and decoders differ a little from machine to machine; a line that has moved shows up in the
+// blocks that it has left.
+constexpr int BLOCK = 8;
+constexpr int NOISE_MAX = 12; // mean difference of a block's bytes
+
+Picture load(const std::string& path, const PictureFile& file, bool withAlpha = false)
+{
+    Picture picture;
+    picture.width = file.width;
+    picture.height = file.height;
+    EXPECT_TRUE(loadPicture(path.c_str(), picture, withAlpha)) << path;
+    return picture;
+}
+
+int blockDifference(const Picture& a, const Picture& b, int left, int top)
+{
+    int sum = 0;
+    for (int y = top; y < top + BLOCK; ++y) {
+        const int first = (y * a.width + left) * a.components;
+        for (int i = first; i < first + BLOCK * a.components; ++i)
+            sum += std::abs(a.bytes[static_cast<std::size_t>(i)] -
+                            b.bytes[static_cast<std::size_t>(i)]);
+    }
+    return sum / (BLOCK * BLOCK * a.components);
+}
+
+int worstBlock(const Picture& a, const Picture& b)
+{
+    int worst = 0;
+    for (int top = 0; top + BLOCK <= a.height; top += BLOCK)
+        for (int left = 0; left + BLOCK <= a.width; left += BLOCK)
+            worst = std::max(worst, blockDifference(a, b, left, top));
+    return worst;
+}
+
+} // namespace
+
+TEST(PaintedPictures, AreTheOnesThatTheGameIsGiven)
+{
+    const OwnFolder folder;
+    ASSERT_EQ(std::system(PAINTER " ."), 0);
+    for (const PictureFile& file : FILES) {
+        const Picture given = load(std::string(SOURCE_DIR "/data/") + file.name, file);
+        const Picture painted = load(file.name, file);
+        ASSERT_EQ(given.bytes.size(), painted.bytes.size());
+        EXPECT_LE(worstBlock(given, painted), NOISE_MAX) << file.name;
+    }
+}
+
+// A pixel between figure and key colour would stand as a yellow speck beside the rider.
+TEST(PaintedPictures, RidersAreCutOutCleanly)
+{
+    for (int i = 1; i <= 5; ++i) {
+        const Picture rider =
+            load(std::string(SOURCE_DIR "/data/") + FILES[i].name, FILES[i], true);
+        int figure = 0;
+        for (std::size_t at = 0; at < rider.bytes.size(); at += 4) {
+            if (rider.bytes[at + 3] == 0)
+                continue;
+            ++figure;
+            const bool nearKey =
+                rider.bytes[at] > 200 && rider.bytes[at + 1] > 200 && rider.bytes[at + 2] < 80;
+            EXPECT_FALSE(nearKey) << FILES[i].name << " pixel " << at / 4;
+        }
+        EXPECT_GT(figure, 600) << FILES[i].name;
+        EXPECT_LT(figure, 2500) << FILES[i].name;
+    }
+}

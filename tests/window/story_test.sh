@@ -1,0 +1,243 @@
+#!/usr/bin/env bash
+# A race of two stages with event cards, two persons against two computers: the persons dope whenever
+# they may, follow, pay and throw whatever the cards want. The race is left behind its first stage,
+# goes on from its file, and its standings are exported each time.
+set -eu
+# shellcheck source=tests/support/window.sh
+. "$(dirname "$0")/../support/window.sh"
+
+# English, smooth, no delay, 999 board units a tick.
+fast='\1\1\0\0\0\0\0\300\171\104\0\0\0\0\0\0\0\0\0\0\360\277\0\0\0\0\0\0\360\277'
+head=57
+stage=116
+
+# The controls of this story only, on a screen of 5:4.
+findMoreControls()
+{
+    local width height name place
+    read -r width height < <(xdotool getdisplaygeometry)
+    while read -r name place; do
+        at[$name]=$place
+    done < <(awk -v v="$width" -v h="$height" '
+        function put(name, x, y) { printf "%s %d %d\n", name, x, y }
+        BEGIN {
+            box = v * 0.4 + 97 * 1.2
+            for (i = 0; i < 2; i++) {
+                put("computer" i, box + 3, h * 0.41 + i * (h * 0.01 + 15))
+                put("computerMiddle" i, box + h * 0.01, h * 0.41 + i * (h * 0.01 + 15))
+            }
+            put("raceName", v * 0.545 + 3, h * 0.57)
+            put("add", v * 0.5, h * 0.915)
+            put("addEdge", v * 0.5 - v * 0.028, h * 0.915)
+            put("finishBox", v * 0.45 + 4, h * 0.885)
+            put("finishMiddle", v * 0.45 + h * 0.01, h * 0.885)
+            put("save", v * 0.8 - v * 0.032 + 8, h * 0.915)
+            put("savedOk", v * 0.422 + 180, h * 0.935)
+            put("firstRace", v * 0.2 + 12, h * 0.2 + 12)
+            put("listOkEdge", v * 0.5 + v * 0.064 * 0.6 + 3, h * 0.8 + 4)
+        }')
+}
+
+# Whether the first name on the list is yellow.
+raceChosen()
+{
+    import -silent -window root -crop "120x16+$((1280 / 5))+$((1024 / 5 + 4))" -depth 8 txt:- |
+        grep -q '#FFFF00'
+}
+
+chooseRace()
+{
+    xdotool key c
+    until_ 5 "the list of races" pixelIs listOkEdge B2B2B2
+    ! raceChosen || fail "a race is chosen before anybody has"
+    click firstRace
+    until_ 5 "the race chosen" raceChosen
+}
+
+setUpRace()
+{
+    click start
+    until_ 5 "the team setup" pixelIs setupOkEdge B2B2B2
+    for i in 0 1; do
+        click "computer$i"
+        until_ 5 "a person's team" pixelIs "computerMiddle$i" FFFFFF
+    done
+    click setupOk
+    until_ 5 "the want of a race name" dialogOpen
+    xdotool key o
+    until_ 5 "the team setup again" pixelIsNot dialogTitle 000080
+    click raceName
+    xdotool type --delay 60 "Story 1"
+    shot setup
+    click setupOk
+    until_ 5 "the courses" pixelIs cornerEdge B2B2B2
+}
+
+pixelIsNot() { ! pixelIs "$@"; }
+
+designCourse()
+{
+    xdotool key c
+    sleep 0.3
+    click add
+    sleep 0.2
+    click add
+    sleep 0.2
+    click finishBox
+    until_ 5 "the mark of the finish" pixelIs finishMiddle 000000
+    click add
+    sleep 0.2
+    click save
+    until_ 5 "the saved course" test -s run/courses
+    click add
+    until_ 10 "the race" throwOpen
+}
+
+# Keeps a picture of each dialog that looks like none before.
+declare -A dialogs
+noteDialog()
+{
+    local look
+    import -silent -window root -crop "520x170+380+410" +repage dialog.png
+    # It may have gone meanwhile.
+    convert dialog.png -crop 1x1+10+5 -depth 8 txt:- | grep -q '#000080' || return 0
+    look=$(convert dialog.png -depth 8 rgb:- | md5sum)
+    [ -z "${dialogs[$look]-}" ] || return 0
+    dialogs[$look]=1
+    mv dialog.png "dialog${#dialogs[@]}.png"
+}
+
+# The throws for the order, then the eight riders: up and down the grid, so that free squares are
+# met.
+placeRiders()
+{
+    local across="Left Left Left Up Right Right Right Up"
+    local direction
+    while throwOpen; do
+        xdotool key t n
+        sleep 0.1
+    done
+    for _ in {1..6}; do
+        for direction in $across $across $across Down Down Down Down Down; do
+            xdotool key --delay 15 Return "$direction"
+            ! throwOpen || return 0
+            ! dialogOpen || return 0
+        done
+    done
+    fail "the riders aren't placed"
+}
+
+# Whatever the stage asks, until it is over. A key that doesn't fit the state does nothing, so all
+# those that may are pressed.
+playStage()
+{
+    local end=$((SECONDS + 400))
+    placeRiders
+    while ! sheetOpen; do
+        [ $SECONDS -lt $end ] || fail "the stage does not end"
+        kill -0 "$gamePid" || fail "the program ended in the race"
+        if dialogOpen; then
+            noteDialog
+            xdotool key o y b i
+        elif throwOpen; then
+            xdotool key d y o
+            ! dialogOpen || noteDialog
+            xdotool key t n
+        else
+            # Pays with a card, throws the extra die, rides.
+            xdotool key F7 F5 F1 o t
+            xdotool key --delay 15 Up Up Up Up Up Up Up Up Up Up Up Right Up Left Up Return
+        fi
+        sleep 0.05
+    done
+}
+
+sizeIs() { [ "$(stat -c %s "$1" 2> /dev/null)" = "$2" ]; }
+
+# Empty places of the finish in the record of a stage: those of riders who were disqualified.
+emptyPlaces()
+{
+    od -An -v -td4 -w4 -j $((head + ($1 - 1) * stage + 16 + 36)) -N 64 "run/Story 1.race" |
+        grep -c -- -1 || true
+}
+
+finishStage()
+{
+    until_ 5 "stage $1 in the file" sizeIs "run/Story 1.race" $((head + $1 * stage))
+    xdotool key x
+    until_ 5 "the standings of stage $1" test -s "run/Story 1.csv"
+    sleep 0.3
+    shot "final$1"
+    cp "run/Story 1.csv" "standings$1.csv"
+    caught=$((caught + $(emptyPlaces "$1")))
+    xdotool key q
+    until_ 5 "the main menu" pixelIs startEdge B2B2B2
+}
+
+endProgram()
+{
+    xdotool key e
+    expectEnd
+}
+
+# The same chance each time, so that a failure can be looked at again.
+cat > seed.c << 'END'
+#include <stdlib.h>
+void srand(unsigned seed)
+{
+    (void)seed;
+    srandom(20261123);
+}
+END
+cc -shared -fPIC -o seed.so seed.c
+LD_PRELOAD=$PWD/seed.so${LD_PRELOAD:+:$LD_PRELOAD}
+export LD_PRELOAD
+caught=0
+rm -f dialog*.png
+
+startGame "$1" "$2" "$fast"
+findMoreControls
+setUpRace
+designCourse
+playStage
+finishStage 1
+endProgram
+
+rm "run/Story 1.csv"
+startAgain "$1"
+chooseRace
+shot list
+xdotool key s
+until_ 5 "the standings" sheetOpen
+shot standings
+xdotool key o
+until_ 5 "the list again" pixelIsNot sheetTitle 000080
+xdotool key o
+until_ 5 "the courses" pixelIs courseFrame 000033
+xdotool key u
+sleep 0.5
+click savedOk
+until_ 10 "the second stage" throwOpen
+playStage
+finishStage 2
+endProgram
+
+startAgain "$1"
+rm "run/Story 1.csv"
+chooseRace
+xdotool key s
+until_ 5 "the standings" sheetOpen
+xdotool key g
+sleep 0.3
+shot general
+xdotool key x
+until_ 5 "the standings of the race" cmp -s "run/Story 1.csv" standings2.csv
+xdotool key o
+until_ 5 "the list again" pixelIsNot sheetTitle 000080
+xdotool key b
+until_ 5 "the main menu" pixelIs startEdge B2B2B2
+endProgram
+
+[ ${#dialogs[@]} -ge 8 ] || fail "only ${#dialogs[@]} different dialogs"
+[ $caught -gt 0 ] || fail "nobody was caught in the doping control"
+echo "Two stages with ${#dialogs[@]} different dialogs, $caught caught: $SECONDS seconds."
