@@ -66,8 +66,8 @@ bool racePanelActive();
 // The states in which the buttons for view and camera act.
 bool cameraActive();
 
-// The states in which a team's tab brings its cards into view: wherever the board is drawn, but under
-// the scorecards.
+// The states in which a team's tab brings its cards into view: wherever the board is drawn, but
+// under the scorecards.
 bool teamTabsActive();
 
 // The states in which strength cards are picked and taken back.

@@ -130,8 +130,9 @@ static void drawPawn(int rider)
 
 static std::string stagesText()
 {
-    return raceSetup.multiStage ? texts.multipleStages + ", " + raceSetup.raceName
-                                : texts.singleStage;
+    return raceSetup.multiStage
+               ? texts.multipleStages + ", " + shownFileName(raceSetup.raceBaseName)
+               : texts.singleStage;
 }
 
 static void drawCourse()
@@ -143,7 +144,7 @@ static void drawCourse()
     const float x = layout.overviewTitleX + BESIDE_TABLE;
     const float viewH = static_cast<float>(layout.viewH);
     setColour(WHITE);
-    drawText(x, viewH * 0.93f, ALIGN_LEFT, stagesText());
+    drawText(x, viewH * 0.93f, ALIGN_LEFT, cutToWidth(stagesText(), cornerButton().x - x));
     drawCheckBox(static_cast<int>(x), static_cast<int>(viewH * 0.947f),
                  static_cast<int>(layout.teamCheckSize), texts.enableEventCards, NO_ACCESS_KEY,
                  false, raceSetup.eventCardsOn);

@@ -50,7 +50,7 @@ TEST(Crash, ReachesOneRowBackButNotTheHigherLaneOfItsOwnRow)
 
 TEST(Crash, SpreadsToTheHigherLaneInEveryOtherRow)
 {
-    EXPECT_EQ(crashOf({{0, 7, 2}, {1, 6, 2}, {2, 6, 3}}), (Riders{0, 1, 2}));
+    EXPECT_EQ(crashOf({{0, 7, 2}, {1, 6, 2}, {2, 6, 3}, {3, 6, 4}}), (Riders{0, 1, 2, 3}));
     // Back in the row where it began the rule holds for whoever stands there.
     EXPECT_EQ(crashOf({{0, 7, 2}, {1, 7, 1}, {2, 7, 0}, {3, 7, 3}}), (Riders{0, 1, 2}));
     EXPECT_EQ(crashOf({{0, 7, 2}, {1, 7, 1}, {2, 6, 1}, {3, 6, 2}, {4, 5, 2}, {5, 5, 3}}),
@@ -82,6 +82,9 @@ TEST(Crash, AWallHoldsItFromItsFirstRowToItsLast)
         EXPECT_EQ(crashOf({{0, row, 1}, {1, row, 0}}), walled ? Riders{0} : (Riders{0, 1}));
         EXPECT_EQ(crashOf({{0, row, 3}, {1, row, 2}}), walled ? Riders{0} : (Riders{0, 1}));
     }
+    // Its first row, behind which the road is free.
+    EXPECT_EQ(crashOf({{0, 34, 2}, {1, 34, 1}}), Riders{0});
+    EXPECT_EQ(crashOf({{0, 33, 2}, {1, 33, 1}}), (Riders{0, 1}));
     // From the lower lane to the higher one, one row behind the start of the crash.
     EXPECT_EQ(crashOf({{0, 14, 2}, {1, 13, 2}, {2, 13, 3}}), (Riders{0, 1}));
     EXPECT_EQ(crashOf({{0, 16, 2}, {1, 15, 2}, {2, 15, 3}}), (Riders{0, 1, 2}));

@@ -135,6 +135,14 @@ TEST(DopingControl, WithNobodyCaughtTheStageCloses)
     EXPECT_EQ(race.resultSlots[FINISH_SLOT + 2], 2);
 }
 
+TEST(DopingControl, OneRiderCaughtIsEnough)
+{
+    endStage({{9, 6}});
+    const ScriptedRand script{drawOf(6, 1)};
+    startDopingControl();
+    EXPECT_TRUE(race.anyDoping);
+}
+
 TEST(DopingControl, EveryRiderCaughtHasACountercheckOfHisOwn)
 {
     endStage({{2, 6}, {7, 5}, {9, 6}, {15, 6}});

@@ -182,6 +182,20 @@ TEST(EventCard, AComputerCauserOfACrashLetsThePersonsBehindHimAnswer)
     EXPECT_EQ(gameState, STATE_TURN);
 }
 
+TEST(EventCard, ComputerVictimsOfACrashPayAtOnce)
+{
+    setUpPersonsRace(ONE_LAP, {{0, 7, 2}, {8, 6, 2}, {4, 5, 2}});
+    race.riders[8].isHuman = 0;
+    beginPersonsMove(0, 7);
+    gameState = STATE_EVENT_CARD;
+    putOnTop(12);
+    applyEventCard();
+    confirmHandIn();
+    EXPECT_EQ(spentCards(2), 1);
+    EXPECT_EQ(race.currentRider, 4); // behind him, and asked after him
+    EXPECT_EQ(gameState, STATE_SKIP_HANDIN);
+}
+
 TEST(EventCard, AFreeCardIsAChoiceForPersonsAndABonusForComputerRiders)
 {
     drawAndApply(FREE_CARD, FLAT, true);
@@ -210,11 +224,11 @@ TEST(EventCard, TheExtraDieIsThrownByPersonsOnly)
     EXPECT_EQ(race.movesTotal, 7 + 4);
 
     draw(EXTRA_DIE, FLAT, false);
-    const ScriptedRand script{3};
+    const ScriptedRand script{5};
     applyEventCard();
     EXPECT_EQ(gameState, STATE_ANIMATE);
-    EXPECT_EQ(race.extraDie, 4);
-    EXPECT_EQ(race.movesTotal, 7 + 4);
+    EXPECT_EQ(race.extraDie, 6);
+    EXPECT_EQ(race.movesTotal, 7 + 6);
 }
 
 TEST(EventCard, ExtraSpacesRaiseTheTotalOfComputerRidersOnly)
@@ -235,6 +249,10 @@ TEST(EventCard, ExtraSpacesRaiseTheTotalOfComputerRidersOnly)
         EXPECT_EQ(race.moveBudget, 7 + spaces[card - 21]); // the way ahead is free
         EXPECT_EQ(race.breakaway, alone[card - 21]);
     }
+    draw(21, FLAT, true);
+    race.breakaway = 1; // declared before the throw
+    applyEventCard();
+    EXPECT_EQ(race.breakaway, 1);
 }
 
 TEST(EventCard, SpacesForACardArePaidByPersonsAsTheyChooseAndByComputerRidersAtOnce)
@@ -247,10 +265,12 @@ TEST(EventCard, SpacesForACardArePaidByPersonsAsTheyChooseAndByComputerRidersAtO
     confirmHandIn();
     EXPECT_EQ(gameState, STATE_MOVE);
     EXPECT_EQ(race.moveBudget, 7 + 4);
+    EXPECT_EQ(race.movesTotal, 7);
 
     drawAndApply(PAID_SPACES, FLAT, false);
     EXPECT_EQ(gameState, STATE_ANIMATE);
     EXPECT_EQ(race.movesTotal, 7 + 4);
+    EXPECT_EQ(race.moveBudget, 7 + 4);
     EXPECT_EQ(race.cardUsed[0][0], CARD_SPENT); // the first, whatever its value
     EXPECT_EQ(spentCards(0), 1);
 }

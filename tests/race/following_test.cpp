@@ -139,6 +139,14 @@ TEST(Following, TheWayMayCostTheMovesThatTheLeaderMade)
     lead(0, "MR", 7);
     EXPECT_EQ(squareOfRider(4), (Square{14, 4}));
     EXPECT_EQ(gameState, STATE_TURN); // behind a computer rider's it hasn't
+
+    // Behind a computer leader the moves of his route count, not his throw.
+    setUpPersonsRace(ONE_LAP, {{0, 10, 3}, {4, 8, 3}});
+    beginPersonsMove(0, 2);
+    steer("MR");
+    race.movesTotal = 9;
+    endComputerMove();
+    EXPECT_EQ(gameState, STATE_TURN);
 }
 
 TEST(Following, ARiderALapAheadFollowsOnHisOwnLap)
@@ -220,4 +228,11 @@ TEST(ComputerFollower, AlwaysComesAlongAcrossTheFinish)
     lead(0, "MMM");
     EXPECT_EQ(race.resultSlots[FINISH_SLOT + 1], 4);
     EXPECT_EQ(race.riders[4].finished, 1);
+
+    // The line itself lies before the finish.
+    setUpPersonsRace(ONE_LAP, {{0, 112, 5}, {4, 111, 5}, {12, 60, 4}});
+    letComputerJudge();
+    course.reach12[course.finishRow][5] = 1;
+    lead(0, "MMM");
+    EXPECT_EQ(race.currentRider, 4); // he declines and takes his own turn
 }

@@ -163,6 +163,7 @@ TEST(CloseStage, ARaceThatCantBeWrittenIsAskedAboutAndStaysInMemory)
     gameState = STATE_SAVE_FAILED;
     abortSave();
     EXPECT_EQ(gameState, STATE_FINAL_SCORECARD);
+    EXPECT_EQ(raceSetup.raceStages.size(), 1u);
 }
 
 TEST(CloseStage, ASingleStageLeavesNoRecordAndNoFile)

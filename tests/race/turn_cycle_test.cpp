@@ -51,6 +51,18 @@ TEST(NextTurn, AnExtraDieOutlastsABonusByOneTurn)
     EXPECT_EQ(race.extraDie, -1);
 }
 
+TEST(NextTurn, ForgetsTheMoveBefore)
+{
+    setUpPersonsRace(ONE_LAP, {{3, 7, 2}});
+    race.extraMoves = 4;
+    race.breakaway = 1;
+    race.handInCards = {0, 1};
+    nextTurn();
+    EXPECT_EQ(race.extraMoves, 0);
+    EXPECT_EQ(race.breakaway, 0);
+    EXPECT_EQ(race.handInCards, (Table<int, 2>{-1, -1}));
+}
+
 TEST(Finishers, TheLineDirectlyBehindLeavesWithTheLeader)
 {
     // In lane 4 row 119 has no square of its own, and nobody stands on row 116.
@@ -178,6 +190,7 @@ TEST(StageEnd, ComesWhenNobodyIsLeftToPlay)
     race.currentRider = 0;
     nextTurn();
     EXPECT_EQ(gameState, STATE_DOPING_DRAW); // at once, with or without doping
+    EXPECT_NE(race.dopingDraw[0], 0);
     EXPECT_EQ(race.currentRider, -1);
 
     // Past the finish, but never taken off: he can't hold up the stage.

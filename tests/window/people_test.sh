@@ -50,7 +50,7 @@ press()
 
 languageIs() { [ "$(od -An -tu1 -N1 run/settings)" -eq "$1" ]; }
 teamIs() { pixelIs "tab$1" "${tabColours[$1]}"; }
-cardLaid() { pixelIs firstDie FFFFFF; }
+cardLaid() { pixelIsNot firstDie 990000; } # a white card or a blue one
 courseSaved() { [ -f run/courses ] && [ "$(stat -c %s run/courses)" -eq 48 ]; }
 
 chooseLanguage()
