@@ -2,6 +2,8 @@
 
 #include "app/game_state.h"
 #include "app/view.h"
+#include "ui/layout.h"
+#include "ui/text.h"
 #include "ui/texts.h"
 
 #include <algorithm>
@@ -105,7 +107,9 @@ std::string teamNumbersText(int team)
 
 std::vector<std::string> exportMessage()
 {
-    const std::string file = "\"" + raceSetup.standingsFileName + "\"";
+    const float room = layout.scorecardW * 0.4f;
+    const std::string file =
+        "\"" + cutToWidth(shownFileName(raceSetup.standingsFileName), room) + "\"";
     if (view.exportStatus == EXPORT_WRITTEN)
         return {texts.standingsWritten + file + "."};
     if (view.exportStatus == EXPORT_FAILED)
