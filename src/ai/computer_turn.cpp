@@ -3,6 +3,7 @@
 #include "ai/route_search.h"
 #include "app/game_state.h"
 #include "app/host.h"
+#include "app/overlays.h"
 #include "board/course.h"
 #include "board/rider_motion.h"
 #include "race/card_rules.h"
@@ -198,15 +199,13 @@ void planComputerMove(int moves, Square start)
     race.pathSquares[0] = {static_cast<float>(from.row), static_cast<float>(from.lane)};
     restMotion();
     if (budget < 1) {
-        gameState = STATE_NO_MOVE;
-        redrawNow();
+        enter(STATE_NO_MOVE);
         return;
     }
     RouteBest best{.row = start.row, .lane = start.lane};
     findRoute(from, budget, {.rider = race.currentRider, .simulateFollowers = true}, best);
     layRoute(best.path);
-    gameState = STATE_ANIMATE;
-    redrawNow();
+    enter(STATE_ANIMATE);
     armMoveTimer(0);
 }
 
@@ -217,8 +216,7 @@ void playComputerTurn()
     throwDice();
     race.movesTotal = race.dice[0] + race.dice[1];
     if (drawsEventCard()) {
-        gameState = STATE_EVENT_CARD;
-        redrawNow();
+        enter(STATE_EVENT_CARD);
         return;
     }
     planComputerMove(race.movesTotal, {});

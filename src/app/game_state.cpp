@@ -75,6 +75,12 @@ bool cardsActive()
            gameState == STATE_EVENT_HANDIN;
 }
 
+bool scorecardShown()
+{
+    return gameState == STATE_SCORECARD || gameState == STATE_FINAL_SCORECARD ||
+           gameState == STATE_RACE_STANDINGS;
+}
+
 bool dialogShown()
 {
     switch (gameState) {

@@ -4,7 +4,7 @@
 
 // clang-format off
 enum GameState {
-    STATE_TRANSIT            = 0,   // between two steps of the rules; no input finds it
+    STATE_TRANSIT            = 0,   // between two steps of the rules; only team tabs act
     STATE_TURN               = 1,   // a person before his throw
     STATE_MOVE               = 2,   // a person steers his rider
     STATE_COMPUTING          = 3,   // a computer rider's route is worked out
@@ -72,6 +72,9 @@ bool teamTabsActive();
 
 // The states in which strength cards are picked and taken back.
 bool cardsActive();
+
+// The states in which the score sheet stands on the screen and can be dragged by its title bar.
+bool scorecardShown();
 
 // The states in which a dialog box stands on the screen and can be dragged by its title bar.
 bool dialogShown();

@@ -1,16 +1,20 @@
 #include "app/overlays.h"
 
-#include "app/game_state.h"
 #include "app/host.h"
 #include "app/settings.h"
 #include "app/view.h"
 #include "race/race_state.h"
 
-static void openOverlay(GameState state)
+void enter(GameState state)
 {
-    returnState = gameState;
     gameState = state;
     redrawNow();
+}
+
+void openOverlay(GameState state)
+{
+    returnState = gameState;
+    enter(state);
 }
 
 void openQuitConfirm()
@@ -47,6 +51,5 @@ void closeOverlay()
 void toMainMenu()
 {
     race.sprintWinner = -1;
-    gameState = STATE_MAIN_MENU;
-    redrawNow();
+    enter(STATE_MAIN_MENU);
 }

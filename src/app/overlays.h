@@ -1,5 +1,13 @@
 #pragma once
 
+#include "app/game_state.h"
+
+// Goes to a state and paints.
+void enter(GameState state);
+
+// The same, keeping the present state to go back to.
+void openOverlay(GameState state);
+
 // Screens that open on top of the race and go back to where it stood. Each stores the state to go
 // back to and paints.
 

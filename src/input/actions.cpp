@@ -1,6 +1,7 @@
 #include "input/actions.h"
 
 #include "app/host.h"
+#include "app/overlays.h"
 #include "app/view.h"
 #include "board/course.h"
 #include "board/designer.h"
@@ -13,12 +14,6 @@
 
 #include <algorithm>
 #include <utility>
-
-void enter(GameState state)
-{
-    gameState = state;
-    redrawNow();
-}
 
 // A name may have got shorter since, by another language or another race.
 static void keepCursorInText()
@@ -93,8 +88,7 @@ void goToCourses()
     courseText.clear();
     courseScreens.designChoice = 0;
     courseScreens.courseHover = -1;
-    returnState = gameState;
-    enter(STATE_COURSE_SELECT);
+    openOverlay(STATE_COURSE_SELECT);
 }
 
 void closeSetupMessage()

@@ -6,9 +6,6 @@
 
 // What a control does outside the rules of the race. Mouse and keyboard call the same.
 
-// Changes to a state and paints.
-void enter(GameState state);
-
 // From the main menu.
 void openTeamSetup();
 

@@ -1,6 +1,7 @@
 #include "input/course_input.h"
 
 #include "app/host.h"
+#include "app/overlays.h"
 #include "board/course.h"
 #include "board/designer.h"
 #include "input/actions.h"

@@ -92,13 +92,19 @@ static void releaseInCourseSelection(Point at)
         chooseHoveredCourse();
 }
 
+static void confirm(Point at, const Rect& button, void (*act)())
+{
+    if (at.in(button))
+        act();
+}
+
 static void releaseScreen(Point at)
 {
     switch (gameState) {
     case STATE_ORDER_THROW:
-        return at.in(throwButton()) ? throwForOrder() : void();
+        return confirm(at, throwButton(), throwForOrder);
     case STATE_ORDER_RESULT:
-        return at.in(throwButton()) ? afterOrderThrow() : void();
+        return confirm(at, throwButton(), afterOrderThrow);
     case STATE_MAIN_MENU:
         return releaseInMainMenu(at);
     case STATE_LANGUAGE:
@@ -168,19 +174,13 @@ static void answer(Point at, void (*left)(), void (*right)())
         right();
 }
 
-static void confirm(Point at, void (*ok)())
-{
-    if (at.in(dialogOkButton()))
-        ok();
-}
-
 static void releaseDialog(Point at)
 {
     switch (gameState) {
     case STATE_FOLLOW_PROMPT:
         return answer(at, followYes, followNo);
     case STATE_EVENT_CARD:
-        return confirm(at, applyEventCard);
+        return confirm(at, dialogOkButton(), applyEventCard);
     case STATE_EVENT_CARD_KIND:
         return answer(
             at, [] { receiveWonCard(BLUE_CARD); }, [] { receiveWonCard(WHITE_CARD); });
@@ -188,25 +188,25 @@ static void releaseDialog(Point at)
         return answer(
             at, [] { useWonCard(true); }, [] { useWonCard(false); });
     case STATE_EVENT_NO_CARD:
-        return confirm(at, goOnWithoutEventCard);
+        return confirm(at, dialogOkButton(), goOnWithoutEventCard);
     case STATE_NO_MOVE:
-        return confirm(at, leaveRound);
+        return confirm(at, dialogOkButton(), leaveRound);
     case STATE_CONFIRM_DOPING:
         return answer(at, confirmDoping, closeOverlay);
     case STATE_DOPING_NUMBER:
-        return confirm(at, takeDopingCard);
+        return confirm(at, dialogOkButton(), takeDopingCard);
     case STATE_DOPING_DRAW:
-        return confirm(at, afterDopingDraw);
+        return confirm(at, dialogOkButton(), afterDopingDraw);
     case STATE_DOPING_COUNTERCHECK:
-        return confirm(at, nextCountercheck);
+        return confirm(at, dialogOkButton(), nextCountercheck);
     case STATE_SAVE_FAILED:
         return answer(at, retrySave, abortSave);
     case STATE_CONFIRM_QUIT:
         return answer(at, toMainMenu, closeOverlay);
     case STATE_SKIP_NO_CARD:
-        return confirm(at, confirmHandIn);
+        return confirm(at, dialogOkButton(), confirmHandIn);
     case STATE_SETUP_MESSAGE:
-        return confirm(at, closeSetupMessage);
+        return confirm(at, dialogOkButton(), closeSetupMessage);
     case STATE_SCORECARD:
     case STATE_FINAL_SCORECARD:
     case STATE_RACE_STANDINGS:
@@ -216,12 +216,6 @@ static void releaseDialog(Point at)
     default:
         return;
     }
-}
-
-static bool scorecardShown()
-{
-    return gameState == STATE_SCORECARD || gameState == STATE_FINAL_SCORECARD ||
-           gameState == STATE_RACE_STANDINGS;
 }
 
 static void startDrag(Point at, const Rect& titleBar, const Rect& box)
@@ -299,6 +293,7 @@ int (*mouseClock)() = millisecondsOfGlut;
 // was: "Exit" where "Back" had been, or the next question where the answer to the last was. So it
 // is dropped when the first half led to another state, or to one like it.
 struct DoubleClickGuard {
+    bool pressed = false; // the button is down
     GameState pressedIn = STATE_LOADING;
     Point changedAt = {-1, -1}; // where and when a click led to another state
     int changedTime = 0;
@@ -319,22 +314,36 @@ static bool isSecondHalf(Point at)
 // Whether a click that leaves the state as it was may have answered something all the same.
 static bool mayAskAgain(Point at)
 {
-    return dialogShown() || gameState == STATE_ORDER_RESULT || gameState == STATE_SKIP_HANDIN ||
-           (gameState == STATE_COURSE_DESIGN && at.in(saveCourseButton()));
+    if (dialogShown())
+        return at.in(dialogOkButton()) || at.in(dialogLeftButton()) || at.in(dialogRightButton());
+    switch (gameState) {
+    case STATE_ORDER_RESULT:
+        return at.in(throwButton());
+    case STATE_SKIP_HANDIN:
+        return at.in(handInOkButton());
+    case STATE_COURSE_DESIGN:
+        return at.in(saveCourseButton());
+    default:
+        return false;
+    }
 }
 
 static void clickLeft(bool pressed, Point at)
 {
+    if (pressed || !guard.pressed)
+        guard.pressedIn = gameState;
+    guard.pressed = pressed;
     if (pressed) {
         guard.dropped = isSecondHalf(at);
-        guard.pressedIn = gameState;
         if (!guard.dropped)
             guard.changedAt = {-1, -1};
     }
     if (guard.dropped)
         return;
-    pressed ? pressLeft(at) : releaseLeft(at, guard.pressedIn);
-    if (!pressed && (gameState != guard.pressedIn || mayAskAgain(at))) {
+    if (pressed)
+        return pressLeft(at);
+    releaseLeft(at, guard.pressedIn);
+    if (gameState != guard.pressedIn || mayAskAgain(at)) {
         guard.changedAt = at;
         guard.changedTime = mouseClock();
     }

@@ -55,8 +55,7 @@ static void openStandings()
     if (!raceChosen())
         return;
     previewRace();
-    returnState = gameState;
-    enter(STATE_RACE_STANDINGS);
+    openOverlay(STATE_RACE_STANDINGS);
 }
 
 static void turnList(int columns)

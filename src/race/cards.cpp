@@ -2,6 +2,7 @@
 
 #include "app/game_state.h"
 #include "app/host.h"
+#include "app/overlays.h"
 #include "board/course.h"
 #include "race/card_rules.h"
 #include "race/event_deck.h"
@@ -94,16 +95,14 @@ void humanThrow()
     if (gameState != STATE_TURN)
         return;
     const Rider& rider = race.riders[race.currentRider];
-    gameState = STATE_TRANSIT;
-    redrawNow();
+    enter(STATE_TRANSIT);
     throwDice();
     race.movesTotal = race.dice[0] + race.dice[1];
     redrawNow();
     race.moveBudget = race.movesTotal + course.moveModifier[rider.row][rider.lane];
     race.stepsTaken = 0;
     if (race.moveBudget < 1) {
-        gameState = STATE_NO_MOVE;
-        redrawNow();
+        enter(STATE_NO_MOVE);
         return;
     }
     race.pathSquares[0] = {static_cast<float>(rider.row), static_cast<float>(rider.lane)};
@@ -118,8 +117,7 @@ void throwExtraDie()
     race.extraDie = std::rand() % 6 + 1;
     race.moveBudget += race.extraDie;
     race.movesTotal += race.extraDie;
-    gameState = STATE_MOVE;
-    redrawNow();
+    enter(STATE_MOVE);
 }
 
 // The first slot for won cards that holds no available card, as an index from 0; -1 if all do.
@@ -169,6 +167,5 @@ void useWonCard(bool now)
         race.moveBudget += race.wonCardValue[team][k];
         race.bonusMoves += race.wonCardValue[team][k];
     }
-    gameState = STATE_MOVE;
-    redrawNow();
+    enter(STATE_MOVE);
 }

@@ -1,7 +1,7 @@
 #include "race/doping.h"
 
 #include "app/game_state.h"
-#include "app/host.h"
+#include "app/overlays.h"
 #include "board/course.h"
 #include "race/race_state.h"
 #include "race/scoring.h"
@@ -18,12 +18,6 @@ static int placeForCard()
     return -1;
 }
 
-static void enter(GameState state)
-{
-    gameState = state;
-    redrawNow();
-}
-
 bool mayDope()
 {
     return gameState == STATE_TURN && race.dopingNumber[race.currentRider] == -1;
@@ -33,8 +27,7 @@ void askDoping()
 {
     if (!mayDope() || placeForCard() == -1)
         return;
-    returnState = gameState;
-    enter(STATE_CONFIRM_DOPING);
+    openOverlay(STATE_CONFIRM_DOPING);
 }
 
 void confirmDoping()

@@ -2,7 +2,7 @@
 
 #include "ai/computer_turn.h"
 #include "app/game_state.h"
-#include "app/host.h"
+#include "app/overlays.h"
 #include "board/course.h"
 #include "race/card_rules.h"
 #include "race/crashes.h"
@@ -41,12 +41,6 @@ constexpr Table<EventCard, EVENT_CARD_COUNT> eventCards = {
 Rider& drawingRider()
 {
     return race.riders[race.currentRider];
-}
-
-void enter(GameState state)
-{
-    gameState = state;
-    redrawNow();
 }
 
 // A computer rider's throw stands; the bonus comes on top of it.

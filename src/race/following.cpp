@@ -4,6 +4,7 @@
 #include "ai/route_walk.h"
 #include "app/game_state.h"
 #include "app/host.h"
+#include "app/overlays.h"
 #include "app/view.h"
 #include "board/course.h"
 #include "board/geometry.h"
@@ -124,8 +125,7 @@ void followYes()
 {
     if (gameState != STATE_FOLLOW_PROMPT)
         return;
-    gameState = STATE_TRANSIT;
-    redrawNow();
+    enter(STATE_TRANSIT);
     follow({static_cast<int>(race.moveStartRow), static_cast<int>(race.moveStartLane)},
            {static_cast<int>(race.moveEndRow), static_cast<int>(race.moveEndLane)},
            race.moveBudget);

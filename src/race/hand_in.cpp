@@ -4,6 +4,7 @@
 #include "ai/computer_turn.h"
 #include "app/game_state.h"
 #include "app/host.h"
+#include "app/overlays.h"
 #include "app/view.h"
 #include "board/course.h"
 #include "race/card_rules.h"
@@ -62,8 +63,7 @@ void confirmHandIn()
 static void goOnWith(int rider)
 {
     if (gameState == STATE_SKIP_NO_CARD) {
-        gameState = STATE_TRANSIT;
-        redrawNow();
+        enter(STATE_TRANSIT);
     }
     race.currentRider = rider;
     updateRiderLap(rider);
@@ -80,12 +80,10 @@ static void goOnWith(int rider)
 // The rider who drew the card has paid and still has his throw.
 static void resumeMove()
 {
-    gameState = STATE_TRANSIT;
-    redrawNow();
+    enter(STATE_TRANSIT);
     const Rider& rider = race.riders[race.currentRider];
     if (rider.isHuman) {
-        gameState = STATE_MOVE;
-        redrawNow();
+        enter(STATE_MOVE);
         return;
     }
     gameState = STATE_COMPUTING;
@@ -104,8 +102,7 @@ void resumeAfterHandIn(int next)
     const bool paidForLostTurn = gameState != STATE_EVENT_HANDIN;
     race.currentRider = frontMostRider([](const Rider& rider) { return rider.hasMoved == 0; });
     if (race.currentRider == -1 || (paidForLostTurn && race.currentRider != race.eventRider)) {
-        gameState = STATE_TRANSIT;
-        redrawNow();
+        enter(STATE_TRANSIT);
         nextTurn();
         return;
     }

@@ -3,6 +3,7 @@
 #include "ai/computer_choices.h"
 #include "app/game_state.h"
 #include "app/host.h"
+#include "app/overlays.h"
 #include "board/course.h"
 #include "board/geometry.h"
 #include "race/turn_cycle.h"
@@ -26,8 +27,7 @@ void throwForOrder()
     race.dice[0] = both / 6 + 1;
     race.dice[1] = both % 6 + 1;
     race.teamThrow[riderTeam(race.currentRider)] = race.dice[0] + race.dice[1];
-    gameState = STATE_ORDER_RESULT;
-    redrawNow();
+    enter(STATE_ORDER_RESULT);
 }
 
 static void placeNext()
@@ -46,8 +46,7 @@ static void throwNext()
         team = (team + 1) % TEAM_COUNT;
     } while (race.teamThrow[team] == THROW_OUT);
     race.currentRider = team * RIDERS_PER_TEAM;
-    gameState = STATE_ORDER_THROW;
-    redrawNow();
+    enter(STATE_ORDER_THROW);
     if (!onTurnIsHuman())
         throwForOrder();
 }
@@ -109,8 +108,7 @@ void nextPlacer()
     if ((race.currentRider + 1) % RIDER_COUNT == race.firstPlacer) {
         race.placingRow = race.placingLane = -1;
         redrawNow();
-        gameState = STATE_TRANSIT;
-        redrawNow();
+        enter(STATE_TRANSIT);
         nextTurn();
         return;
     }

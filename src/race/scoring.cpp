@@ -2,6 +2,7 @@
 
 #include "app/game_state.h"
 #include "app/host.h"
+#include "app/overlays.h"
 #include "app/view.h"
 #include "board/course.h"
 #include "store/race_file.h"
@@ -110,6 +111,5 @@ void abortSave()
 {
     if (gameState != STATE_SAVE_FAILED)
         return;
-    gameState = STATE_FINAL_SCORECARD;
-    redrawNow();
+    enter(STATE_FINAL_SCORECARD);
 }

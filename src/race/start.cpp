@@ -2,7 +2,7 @@
 
 #include "ai/route_search.h"
 #include "app/game_state.h"
-#include "app/host.h"
+#include "app/overlays.h"
 #include "app/view.h"
 #include "board/course.h"
 #include "board/rider_motion.h"
@@ -39,8 +39,7 @@ void startRace()
     rebuildEventCards();
     race.currentRider = 0;
     returnState = STATE_TRANSIT;
-    gameState = STATE_ORDER_THROW;
-    redrawNow();
+    enter(STATE_ORDER_THROW);
     if (!race.riders[race.currentRider].isHuman)
         throwForOrder();
 }

@@ -69,12 +69,6 @@ static void drawScreenOfState()
     }
 }
 
-static bool scorecardShown()
-{
-    return gameState == STATE_SCORECARD || gameState == STATE_FINAL_SCORECARD ||
-           gameState == STATE_RACE_STANDINGS;
-}
-
 void drawFrame()
 {
     if (!windowOpen)

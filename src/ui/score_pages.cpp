@@ -83,6 +83,9 @@ std::string riderTotalText(const StagePoints& points, int rider)
 {
     if (points.place[rider] != -1)
         return std::to_string(points.total[rider]);
+    // The riders in memory are not those of a race on the list.
+    if (gameState == STATE_RACE_STANDINGS && shownStageRuns())
+        return "";
     const bool stageOver = raceSetup.multiStage && !shownStageRuns();
     return stageOver || race.riders[rider].disqualified ? "0" : "";
 }

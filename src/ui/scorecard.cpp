@@ -25,7 +25,6 @@ constexpr float PAPER_H = 1419.0f;
 
 constexpr float TEAM_STEP = 141.0f; // from column to column of the team table
 constexpr float TEAM_ROW = 74.25f;
-constexpr Colour FAILURE_RED = {0.6f, 0.0f, 0.0f};
 
 static float sheetX(float u)
 {

@@ -15,7 +15,6 @@
 #include <GL/gl.h>
 
 static constexpr float FRAME_INSET = 6.0f;
-static constexpr Colour FAILURE_RED = {0.6f, 0.0f, 0.0f};
 
 // The section in question where the board lies on the race screen.
 static void drawPreview()

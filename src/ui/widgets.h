@@ -12,6 +12,7 @@ struct Colour {
 constexpr Colour WHITE = {1.0f, 1.0f, 1.0f};
 constexpr Colour BLACK = {0.0f, 0.0f, 0.0f};
 constexpr Colour YELLOW = {1.0f, 1.0f, 0.0f};
+constexpr Colour FAILURE_RED = {0.6f, 0.0f, 0.0f}; // of messages about files
 constexpr Colour panelBlue = {0.0f, 0.0f, 0.2f};
 constexpr Colour buttonGrey = {0.7f, 0.7f, 0.7f};
 constexpr Colour disabledGrey = {0.5f, 0.5f, 0.5f};
