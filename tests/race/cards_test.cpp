@@ -185,38 +185,6 @@ TEST(Throw, TheSquareAddsToItAndMayStopTheRider)
     EXPECT_EQ(gameState, STATE_MOVE);
 }
 
-TEST(Throw, SevenOnDiceAndCardsDrawsAnEventCard)
-{
-    turnOf(0, FLAT);
-    raceSetup.eventCardsOn = true;
-    pickCard(0);
-    throwNumber(raceThrow(5, 1));
-    EXPECT_EQ(gameState, STATE_EVENT_CARD);
-
-    turnOf(0, DESCENT);
-    raceSetup.eventCardsOn = true;
-    throwNumber(raceThrow(1, 1));
-    EXPECT_EQ(race.moveBudget, 7); // seven moves, but no throw of 7
-    EXPECT_EQ(gameState, STATE_MOVE);
-
-    turnOf(0, FLAT);
-    raceSetup.eventCardsOn = true;
-    race.roundNumber = 1;
-    throwNumber(raceThrow(3, 4));
-    EXPECT_EQ(gameState, STATE_MOVE);
-}
-
-TEST(Throw, TheExtraDieCountsAsThrown)
-{
-    turnOf(0, MOUNTAIN);
-    throwNumber(raceThrow(3, 4));
-    gameState = STATE_EVENT_DIE;
-    const ScriptedRand script{11};
-    throwExtraDie();
-    EXPECT_EQ(race.moveBudget, 7 - 3 + 6);
-    EXPECT_EQ(race.movesTotal, 7 + 6);
-}
-
 TEST(WonCard, ForLaterGoesToTheFirstFreeSlot)
 {
     askForKind(5, FLAT);

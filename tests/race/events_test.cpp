@@ -18,6 +18,7 @@ namespace
 constexpr std::string_view ONE_LAP = "01S23S4S5F12";
 constexpr Square FLAT = {13, 2};
 constexpr Square MOUNTAIN = {32, 2};
+constexpr Square DESCENT = {44, 2}; // +5
 constexpr int FREE_CARD = 16;
 constexpr int EXTRA_DIE = 19;
 constexpr int PAID_SPACES = 29;
@@ -84,6 +85,15 @@ TEST(EventCard, IsDrawnForASevenFromTheSecondRoundOn)
     EXPECT_EQ(stateAfter(3, 4, 2, false, false), STATE_MOVE);
     EXPECT_EQ(stateAfter(3, 5, 2, true, false), STATE_MOVE);
     EXPECT_EQ(stateAfter(5, 1, 2, true, true), STATE_EVENT_CARD); // a blue card and a die
+    setUpPersonsRace(ONE_LAP, {{0, DESCENT.row, DESCENT.lane}});
+    raceSetup.eventCardsOn = true;
+    beginPersonsTurn(0);
+    {
+        const ScriptedRand script{raceThrow(1, 1)};
+        humanThrow();
+    }
+    EXPECT_EQ(race.moveBudget, 7); // seven moves, but no throw of seven
+    EXPECT_EQ(gameState, STATE_MOVE);
     stateAfter(3, 4, 2, true, false, EVENT_CARD_COUNT - 1);
     EXPECT_EQ(deck.eventCardPos, 0);
 }
@@ -262,9 +272,12 @@ TEST(EventCard, SpacesForACardArePaidByPersonsAsTheyChooseAndByComputerRidersAtO
     confirmHandIn(); // nothing chosen
     EXPECT_EQ(gameState, STATE_EVENT_HANDIN);
     pickCard(2);
+    pickCard(3);
+    EXPECT_EQ(race.handInCards, (Table<int, 2>{2, -1})); // one is the price
     confirmHandIn();
     EXPECT_EQ(gameState, STATE_MOVE);
     EXPECT_EQ(race.moveBudget, 7 + 4);
+    EXPECT_EQ(race.extraMoves, 4);
     EXPECT_EQ(race.movesTotal, 7);
 
     drawAndApply(PAID_SPACES, FLAT, false);

@@ -132,22 +132,6 @@ TEST(HandIn, AsManyCardsAsTurnsButOneOnCobbles)
     EXPECT_EQ(race.handInCards, (Cards{12, -1}));
 }
 
-TEST(HandIn, OneCardForFourMoves)
-{
-    drawLostTurns(FLAT, 0);
-    race.eventRider = -1;
-    gameState = STATE_EVENT_HANDIN;
-    confirmHandIn();
-    EXPECT_EQ(gameState, STATE_EVENT_HANDIN); // not without a card
-    pickCard(1);
-    pickCard(2);
-    EXPECT_EQ(race.handInCards, (Cards{1, -1}));
-    confirmHandIn();
-    EXPECT_EQ(gameState, STATE_MOVE);
-    EXPECT_EQ(race.moveBudget, 11);
-    EXPECT_EQ(race.extraMoves, 4);
-}
-
 TEST(HandIn, CrashedRidersAnswerFrontToBack)
 {
     setUpPersonsRace(ONE_LAP, {{4, 13, 2, true}, {9, 15, 1}, {0, 13, 3}});
