@@ -68,26 +68,23 @@ void drawTitle(cairo_t* cr)
         {.height = 36, .stroke = 6.6, .ink = RED, .halo = 1.8, .haloInk = INK, .stretch = 1.02});
 }
 
-enum class Card { BLUE, WHITE, EITHER };
+enum class Card { WHITE, EITHER };
 
+// A white card, or one that may be blue or white.
 void drawCard(cairo_t* cr, Spot centre, Card card)
 {
-    constexpr Colour BLUE = rgb(0x3a63c4);
-    const auto outline = [&] { traceRoundedBox(cr, centre.x - 10, centre.y - 15, 20, 30, 4); };
+    constexpr Colour BLUE = rgb(0x2c4fd0);
+    const auto outline = [&] { traceRoundedBox(cr, centre.x - 11, centre.y - 16, 22, 32, 4.5); };
     outline();
-    setColour(cr, card == Card::BLUE ? BLUE : rgb(0xffffff));
+    setColour(cr, rgb(0xffffff));
     cairo_fill(cr);
     if (card == Card::EITHER) {
         cairo_save(cr);
         outline();
         cairo_clip(cr);
-        fillShape(cr, {centre + Spot{-10, -15}, centre + Spot{10, -15}, centre + Spot{-10, 15}},
+        fillShape(cr, {centre + Spot{11, -16}, centre + Spot{-11, -16}, centre + Spot{-11, 16}},
                   BLUE);
         cairo_restore(cr);
-    } else {
-        traceRoundedBox(cr, centre.x - 5.5, centre.y - 9, 11, 18, 2);
-        setColour(cr, card == Card::BLUE ? rgb(0xdfe7fa) : rgb(0xd9d4c6));
-        cairo_fill(cr);
     }
     outline();
     setColour(cr, INK);
@@ -95,34 +92,28 @@ void drawCard(cairo_t* cr, Spot centre, Card card)
     cairo_stroke(cr);
 }
 
-void crossOut(cairo_t* cr, Spot centre)
-{
-    for (const double side : {-1.0, 1.0}) {
-        const Outline bar{centre + Spot{-12 * side, -15}, centre + Spot{12 * side, 15}};
-        strokeLine(cr, bar, false, 7.5, PAPER);
-        strokeLine(cr, bar, false, 4.6, rgb(0xd0202a));
-    }
-}
-
-// The four terrains, and below each the strength cards that a rider may play there.
+// The four terrains, and below each the strength cards that a rider may play there: how many, and
+// whether they may be blue.
 void drawLegend(cairo_t* cr)
 {
-    constexpr int TERRAINS[] = {TERRAIN_FLAT, TERRAIN_COBBLES, TERRAIN_MOUNTAIN, TERRAIN_DESCENT};
-    constexpr int MODIFIERS[] = {0, -2, -3, 3};
+    struct Entry {
+        int terrain, modifier;
+        int cards;
+        Card kind;
+    };
+    constexpr Entry ENTRIES[] = {{TERRAIN_FLAT, 0, 2, Card::EITHER},
+                                 {TERRAIN_COBBLES, -2, 1, Card::EITHER},
+                                 {TERRAIN_MOUNTAIN, -3, 2, Card::WHITE},
+                                 {TERRAIN_DESCENT, 3, 2, Card::EITHER}};
     shadedBox(cr, LEGEND, LEGEND_HALF_X, LEGEND_HALF_Y, 10);
-    for (int i = 0; i < 4; ++i) {
-        const Spot at = LEGEND + Spot{-87.0 + 58 * i, -26};
+    Spot at = LEGEND + Spot{-87, -26};
+    for (const Entry& entry : ENTRIES) {
         const Outline swatch = groundRound(at, 24, 23);
-        paintSurface(cr, swatch, TERRAINS[i], MODIFIERS[i], {1, 0});
+        paintSurface(cr, swatch, entry.terrain, entry.modifier, {1, 0});
         strokeLine(cr, swatch, true, 2.4, INK);
-        const Spot cards = at + Spot{0, 55};
-        const bool single = TERRAINS[i] == TERRAIN_COBBLES;
-        const double shift = single ? 0 : 12.5;
-        drawCard(cr, cards + Spot{-shift, 0}, single ? Card::EITHER : Card::BLUE);
-        if (!single)
-            drawCard(cr, cards + Spot{shift, 0}, Card::WHITE);
-        if (TERRAINS[i] == TERRAIN_MOUNTAIN)
-            crossOut(cr, cards + Spot{-shift, 0});
+        for (int i = 0; i < entry.cards; ++i)
+            drawCard(cr, at + Spot{26.0 * i - 13 * (entry.cards - 1), 56}, entry.kind);
+        at.x += 58;
     }
 }
 

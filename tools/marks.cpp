@@ -17,6 +17,7 @@ constexpr double END_LINE_HALF = 5.6;
 constexpr double WALL_WIDTH = 11.5;
 constexpr Colour INK = rgb(0x1d1a1c);
 constexpr Colour PAPER = rgb(0xfffdf4);
+constexpr Colour START_GREEN = rgb(0x1f7a3c); // of signs and grids alike
 
 double beginOf(const Square& square)
 {
@@ -27,38 +28,12 @@ double endOf(const Square& square)
     return square.run.back().along;
 }
 
-// Half the room that an upright box takes along a direction.
-double halfAlong(Spot direction, double halfWidth, double halfHeight)
-{
-    return std::abs(direction.x) * halfWidth + std::abs(direction.y) * halfHeight;
-}
-
+// From the pawn's place to the line at either end of its square.
 double roomAt(const Square& square, bool atEnd)
 {
-    const double line = !atEnd && square.row == 0 ? END_LINE_HALF : 0;
-    return (atEnd ? endOf(square) : -beginOf(square)) - line;
-}
-
-// Numbers stand towards the begin of a square, so that the arrow has its end; where the begin is
-// cut away, or too short for a number beside a pawn, it is the other way round.
-bool numberAtEnd(const Square& square)
-{
-    constexpr double HALF_WIDTH = 12;
-    constexpr double HALF_HEIGHT = 11;
-    const double half = halfAlong(directionOnSquare(square, -20), HALF_WIDTH, HALF_HEIGHT);
-    const bool narrow = roomAt(square, false) < PAWN_RADIUS + 2 * half + 2;
-    return square.opens || (narrow && roomAt(square, true) > roomAt(square, false) + 3);
-}
-
-// The place of a mark beside the pawn, at the begin or the end of its square.
-LanePoint markPlace(const Square& square, bool atEnd, double halfWidth, double halfHeight)
-{
-    const double limit = roomAt(square, atEnd);
-    const double half =
-        halfAlong(directionOnSquare(square, atEnd ? 20 : -20), halfWidth, halfHeight);
-    const double wanted = std::max((PAWN_RADIUS + limit) / 2, limit - half - 12);
-    const double away = std::min(wanted, limit - half - 4);
-    return pointOnSquare(square, atEnd ? away : -away);
+    const bool endLine =
+        atEnd ? square.row + 1 == sections[square.section].rowCount : square.row == 0;
+    return (atEnd ? endOf(square) : -beginOf(square)) - (endLine ? END_LINE_HALF : 0);
 }
 
 // Whether a wall runs along the square between a lane and its right neighbour.
@@ -70,27 +45,126 @@ bool wallBeside(const Square& square, int lane)
     });
 }
 
-void paintNumber(cairo_t* cr, const Square& square)
+constexpr Lettering NUMBER_STYLE{.height = 17.5, .stroke = 3.5, .halo = 1.9, .stretch = 0.82};
+constexpr double NUMBER_HALF_HEIGHT = 10.5;
+constexpr double ROUNDING = 4;
+
+struct NumberPlace {
+    std::string text; // none on a square of 0
+    Spot at;
+    double halfWidth = 0;
+    bool atEnd = false; // of the square; the arrow has the other end
+};
+
+// Half the room that an upright number takes along a direction; its corners are empty.
+double halfAlong(const NumberPlace& number, Spot direction)
 {
+    const double x = std::abs(direction.x) * number.halfWidth;
+    const double y = std::abs(direction.y) * NUMBER_HALF_HEIGHT;
+    return (x + y + lengthOf({x, y})) / 2;
+}
+
+// What is free between a number, without its empty corners, and a pawn.
+double gapToPawn(const NumberPlace& number, Spot pawn)
+{
+    const Spot off = pawn - number.at;
+    return lengthOf({std::max(0.0, std::abs(off.x) - number.halfWidth + ROUNDING),
+                     std::max(0.0, std::abs(off.y) - NUMBER_HALF_HEIGHT + ROUNDING)}) -
+           PAWN_RADIUS - ROUNDING;
+}
+
+double lacking(double gap, double wanted)
+{
+    return std::max(0.0, wanted - gap);
+}
+
+// How badly a number stands where it is: under a pawn, or so near to another number that the two
+// read as one.
+double crowding(const NumberPlace& number, const Square& square, const std::vector<Square>& squares,
+                const std::vector<NumberPlace>& placed)
+{
+    const double covered = lacking(gapToPawn(number, square.centre), 0.5);
+    double sum = covered * (2 + covered);
+    for (const Square& other : squares) {
+        if (&other != &square && lengthOf(other.centre - number.at) < 40)
+            sum += 2 * lacking(gapToPawn(number, other.centre), 0.5);
+    }
+    for (const NumberPlace& other : placed) {
+        const Spot off = other.at - number.at;
+        if (!other.text.empty() && lengthOf(off) < 60)
+            sum += 4 * std::min(lacking(std::abs(off.x) - number.halfWidth - other.halfWidth, 6.5),
+                                lacking(std::abs(off.y) - 2 * NUMBER_HALF_HEIGHT, 1));
+    }
+    return sum;
+}
+
+// How badly it stands on its square, so far from the line at its end and from the middle of its
+// lane: over a line or a wall.
+double overlap(const NumberPlace& number, const Square& square, double along, double aside)
+{
+    const LanePoint point = pointOnSquare(square, along);
+    const double end = roomAt(square, number.atEnd) - std::abs(along) -
+                       halfAlong(number, directionOnSquare(square, along));
+    const double side = lengthOf(point.right - point.left) / 2 -
+                        halfAlong(number, unitOf(point.right - point.left));
+    const auto line = [&](int lane) { return wallBeside(square, lane) ? WALL_WIDTH / 2 : 1.2; };
+    const double over = lacking(end, 3);
+    return over * (2 + over) + 0.1 * std::abs(end - 10) + 0.3 * std::abs(aside) +
+           2 * lacking(side - aside, line(square.lane)) +
+           2 * lacking(side + aside, line(square.lane - 1));
+}
+
+// Numbers stand towards the begin of a square, unless it is cut away or they stand better at its
+// end.
+NumberPlace placeNumber(const Square& square, const std::vector<Square>& squares,
+                        const std::vector<NumberPlace>& placed)
+{
+    NumberPlace best;
     if (square.modifier == 0)
-        return;
-    std::string text(1, square.modifier > 0 ? '+' : '-');
-    text += std::to_string(std::abs(square.modifier));
+        return best;
+    NumberPlace number;
+    number.text = (square.modifier > 0 ? "+" : "-") + std::to_string(std::abs(square.modifier));
+    number.halfWidth = (letteringWidth(number.text, NUMBER_STYLE) + NUMBER_STYLE.stroke) / 2;
+    double least = 1e9;
+    for (const bool atEnd : {false, true}) {
+        if (atEnd ? square.closes : square.opens)
+            continue;
+        number.atEnd = atEnd;
+        for (double away = PAWN_RADIUS; away < roomAt(square, atEnd); away += 1) {
+            const double along = atEnd ? away : -away;
+            const LanePoint point = pointOnSquare(square, along);
+            for (double aside = -6; aside <= 6; aside += 1) {
+                number.at = point.middle + unitOf(point.right - point.left) * aside;
+                const double cost = crowding(number, square, squares, placed) +
+                                    overlap(number, square, along, aside) + (atEnd ? 9 : 0);
+                if (cost < least) {
+                    least = cost;
+                    best = number;
+                }
+            }
+        }
+    }
+    return best;
+}
+
+// One place for each square.
+std::vector<NumberPlace> placeNumbers(const std::vector<Square>& squares)
+{
+    std::vector<NumberPlace> placed;
+    placed.reserve(squares.size());
+    for (const Square& square : squares)
+        placed.push_back(placeNumber(square, squares, placed));
+    return placed;
+}
+
+void paintNumber(cairo_t* cr, const Square& square, const NumberPlace& number)
+{
     const bool onDark = square.terrain == TERRAIN_MOUNTAIN;
     const Colour ground = squareColour(square.terrain, square.modifier);
-    const Lettering style{.height = 17.5,
-                          .stroke = 3.5,
-                          .ink = onDark ? PAPER : INK,
-                          .halo = 2.2,
-                          .haloInk = onDark ? blend(ground, rgb(0x200a0c), 0.55)
-                                            : blend(ground, PAPER, 0.55),
-                          .stretch = 0.82};
-    const double halfWidth = letteringWidth(text, style) / 2 + style.stroke / 2;
-    const LanePoint place = markPlace(square, numberAtEnd(square), halfWidth, 11);
-    const double shift =
-        (wallBeside(square, square.lane - 1) ? 1 : 0) - (wallBeside(square, square.lane) ? 1 : 0);
-    const Spot across = unitOf(place.right - place.left);
-    drawLettering(cr, text, place.middle + across * (shift * WALL_WIDTH / 5), style);
+    Lettering style = NUMBER_STYLE;
+    style.ink = onDark ? PAPER : INK;
+    style.haloInk = onDark ? blend(ground, rgb(0x200a0c), 0.55) : blend(ground, PAPER, 0.55);
+    drawLettering(cr, number.text, number.at, style);
 }
 
 void drawArrow(cairo_t* cr, Spot centre, Spot direction, double length, Colour colour, double alpha)
@@ -108,11 +182,10 @@ void drawArrow(cairo_t* cr, Spot centre, Spot direction, double length, Colour c
 }
 
 // Arrows of travel on every third square of a lane, moved from lane to lane like a draughtboard.
-void paintArrow(cairo_t* cr, const Square& square)
+void paintArrow(cairo_t* cr, const Square& square, const NumberPlace& number)
 {
-    const bool atEnd = !numberAtEnd(square);
-    const bool last = square.row + 1 == sections[square.section].rowCount;
-    const double room = atEnd ? endOf(square) - (last ? END_LINE_HALF : 0) : -beginOf(square);
+    const bool atEnd = !number.atEnd;
+    const double room = roomAt(square, atEnd);
     const bool flat = square.terrain == TERRAIN_FLAT;
     if (room < PAWN_RADIUS + 18 || (square.row + 2 * square.lane) % 3 != 0 || square.closes ||
         square.opens)
@@ -205,18 +278,18 @@ void paintSign(cairo_t* cr, std::string_view text, Spot centre)
     drawLettering(cr, text, centre, SIGN_STYLE);
 }
 
-// A letter with an arrow to where its way leaves the shared road.
-void paintForkSign(cairo_t* cr, std::string_view text, Spot centre)
+// A letter with an arrow to where its way goes on from a fork.
+void paintForkSign(cairo_t* cr, std::string_view text, Spot centre, Spot way)
 {
     paintPlate(cr, centre, 26, rgb(0x28477c));
     drawLettering(cr, text, centre + Spot{10, 0}, SIGN_STYLE);
-    drawArrow(cr, centre + Spot{-13, 0}, unitOf({-0.35, -1}), 26, PAPER, 1);
+    drawArrow(cr, centre + Spot{-13, 0}, unitOf(way), 26, PAPER, 1);
 }
 
 // A waving flag and the number of the start.
 void paintStartSign(cairo_t* cr, std::string_view number, Spot centre)
 {
-    paintPlate(cr, centre, 27, rgb(0x1f7a3c));
+    paintPlate(cr, centre, 27, START_GREEN);
     const Spot pole = centre + Spot{-16, 0};
     strokeLine(cr, {pole + Spot{0, -12}, pole + Spot{0, 13}}, false, 3, PAPER);
     cairo_new_path(cr);
@@ -234,21 +307,22 @@ struct Sign {
     Spot at;
 };
 
-// Each at the beginning of its section, on free land. C stands where D begins and again where it
-// leaves D.
+// Each at the beginning of its section, on free land. C begins on the road of D; where it leaves
+// that, both stand once more.
 constexpr Sign SIGNS[] = {
     {"A", {424, 216}},  {"E", {324, 754}},  {"B", {774, 597}},  {"D", {1232, 960}},
     {"C", {1274, 960}}, {"F", {1737, 234}}, {"F", {1358, 568}},
 };
-constexpr Spot FORK_SIGN{1727, 806};
+constexpr Spot FORK_SIGNS[] = {{1729, 795}, {1729, 838}};
 
-constexpr Spot START_SIGNS[] = {{1000, 243}, {489, 1066}};
+constexpr Spot START_SIGNS[] = {{928, 239}, {489, 1050}};
 
 void paintLetters(cairo_t* cr)
 {
     for (const Sign& sign : SIGNS)
         paintSign(cr, sign.text, sign.at);
-    paintForkSign(cr, "C", FORK_SIGN);
+    paintForkSign(cr, "C", FORK_SIGNS[0], {-0.6, -1});
+    paintForkSign(cr, "D", FORK_SIGNS[1], {0, -1});
     paintStartSign(cr, "1", START_SIGNS[0]);
     paintStartSign(cr, "2", START_SIGNS[1]);
 }
@@ -256,21 +330,26 @@ void paintLetters(cairo_t* cr)
 // A start place: a bold frame open to the back, as riders stand in it.
 void paintGridPlace(cairo_t* cr, const Square& square)
 {
-    const Colour blue = rgb(0x2459c4);
     const LanePoint front = pointOnSquare(square, endOf(square) - 4);
     const LanePoint back = pointOnSquare(square, endOf(square) - 34);
     const auto inset = [](Spot edge, Spot middle) { return edge + unitOf(middle - edge) * 4.2; };
     strokeLine(cr,
                {inset(back.left, back.middle), inset(front.left, front.middle),
                 inset(front.right, front.middle), inset(back.right, back.middle)},
-               false, 4.2, blue);
+               false, 4.6, START_GREEN);
 }
 
+// The places, and the line in front of them.
 void paintStartGrids(cairo_t* cr, const std::vector<Square>& squares)
 {
     for (const Square& square : squares) {
         if ((square.section == 0 || square.section == 6) && square.row < 4)
             paintGridPlace(cr, square);
+    }
+    for (const int section : {0, 6}) {
+        const Outline line = lineAcross(section, 3.5);
+        strokeLine(cr, line, false, 9, PAPER);
+        strokeLine(cr, line, false, 5.5, START_GREEN);
     }
 }
 
@@ -287,18 +366,20 @@ std::vector<Outline> signGround()
         keep(sign.at, 20);
     for (const Spot& at : START_SIGNS)
         keep(at, 28);
-    keep(FORK_SIGN, 28);
+    for (const Spot& at : FORK_SIGNS)
+        keep(at, 28);
     return ground;
 }
 
 void paintMarks(cairo_t* cr, const std::vector<Square>& squares)
 {
     paintStartGrids(cr, squares);
-    for (const Square& square : squares)
-        paintArrow(cr, square);
+    const std::vector<NumberPlace> numbers = placeNumbers(squares);
+    for (std::size_t i = 0; i < squares.size(); ++i)
+        paintArrow(cr, squares[i], numbers[i]);
     paintWalls(cr);
     paintEndLines(cr);
-    for (const Square& square : squares)
-        paintNumber(cr, square);
+    for (std::size_t i = 0; i < squares.size(); ++i)
+        paintNumber(cr, squares[i], numbers[i]);
     paintLetters(cr);
 }

@@ -21,7 +21,7 @@ constexpr Colour SHOE = rgb(0x3a3a40);
 constexpr std::array<Kit, RIDER_PICTURE_COUNT> KITS = {{
     {rgb(0x1fa83c), rgb(0xf2f4ee), rgb(0x1c3a24), rgb(0xd7dad6)},
     {rgb(0xd9232b), rgb(0xf4efe8), rgb(0x3d1517), rgb(0xd8d2ca)},
-    {rgb(0x34353b), rgb(0xe9e9e6), rgb(0x202126), rgb(0xc23b30)},
+    {rgb(0x34353b), rgb(0xe9e9e6), rgb(0x202126), rgb(0xe4e4e0)},
     {rgb(0x2a5fd0), rgb(0xeef2f8), rgb(0x16264e), rgb(0xdfd9c6)},
     {rgb(0xf4b73c), rgb(0xfff3d8), rgb(0x3a2c14), rgb(0xb83a2a)},
 }};

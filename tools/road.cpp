@@ -23,7 +23,7 @@ struct Shades {
 constexpr Shades FLAT{rgb(0xc3c5cb), rgb(0xc3c5cb), 1};
 constexpr Shades COBBLES{rgb(0xc9b48a), rgb(0x93784c), 4};
 constexpr Shades CLIMB{rgb(0xcf7a50), rgb(0x94202f), 5};
-constexpr Shades DESCENT{rgb(0xa4da94), rgb(0x3f9f63), 4};
+constexpr Shades DESCENT{rgb(0xa2dea2), rgb(0x2f9778), 4};
 
 Spot boxMin(const Outline& shape)
 {
@@ -92,7 +92,7 @@ void strewGrit(cairo_t* cr, const Outline& shape, Colour base, int seed)
     cairo_restore(cr);
 }
 
-// Climbs carry fine chevrons uphill, descents long streaks: the surface itself tells them apart.
+// Climbs carry chevrons uphill, descents long streaks: the surface itself tells them apart.
 void drawChevrons(cairo_t* cr, const Outline& shape, Colour base, Spot direction)
 {
     const Spot low = boxMin(shape);
@@ -104,12 +104,12 @@ void drawChevrons(cairo_t* cr, const Outline& shape, Colour base, Spot direction
     cairo_clip(cr);
     cairo_translate(cr, middle.x, middle.y);
     cairo_rotate(cr, std::atan2(direction.y, direction.x));
-    setColour(cr, blend(base, rgb(0x2a0a10), 0.35), 0.34);
-    cairo_set_line_width(cr, 1.6);
-    for (double x = -reach; x < reach; x += 8) {
-        cairo_move_to(cr, x - 9, -17);
+    setColour(cr, blend(base, rgb(0x2a0a10), 0.35), 0.55);
+    cairo_set_line_width(cr, 2.6);
+    for (double x = -reach; x < reach; x += 13) {
+        cairo_move_to(cr, x - 10, -17);
         cairo_line_to(cr, x, 0);
-        cairo_line_to(cr, x - 9, 17);
+        cairo_line_to(cr, x - 10, 17);
     }
     cairo_stroke(cr);
     cairo_restore(cr);

@@ -102,6 +102,11 @@ constexpr Spot PATH_EAST[] = {{1300, 876}, {1345, 888}, {1372, 920},
                               {1420, 940}, {1540, 940}, {1640, 946}};
 constexpr Spot FOOTBRIDGE{909, 846};
 
+// In the picture of B two bits of land are lit. What is dark looks there like dimmed meadow.
+constexpr Spot HEDGE{652.3, 822};
+constexpr double HEDGE_LENGTH = 88;
+constexpr Spot COPSE[] = {{767, 713}, {754, 718}, {764, 729}};
+
 // A path with its corners cut off, time after time.
 template <typename Points> Outline rounded(const Points& points)
 {
@@ -238,6 +243,14 @@ void paintWoods(cairo_t* cr, const LandMap& map)
                 drawLeafTree(cr, at, size, chance(i, j, 95));
         }
     }
+    for (int i = 0; i * 6.5 < HEDGE_LENGTH; ++i) {
+        const Spot bush = HEDGE + Spot{1.2 * (chance(i, 1, 96) - 0.5), 6.5 * i};
+        fillEllipse(cr, bush + Spot{2.5, 2}, 4.6, 4.4, SHADOW, 0.38);
+        fillEllipse(cr, bush, 4.6, 4.8, rgb(0x566238));
+        fillEllipse(cr, bush - Spot{1, 1.2}, 2.6, 2.6, rgb(0x64743f));
+    }
+    for (const Spot& at : COPSE)
+        drawLeafTree(cr, at, 13, 0);
 }
 
 void paintPaths(cairo_t* cr)

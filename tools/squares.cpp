@@ -16,7 +16,13 @@ constexpr double taperOf(int section, int lane)
 {
     if (section == 8 && lane == 1)
         return 0;
-    return section == 7 ? 48 : 32;
+    return section == 7 ? 64 : 32;
+}
+
+// Where a lane that closes is at its end, in rows behind its last square.
+constexpr double closingOf(int section, int lane)
+{
+    return section == 3 && lane == 4 ? 0.4 : 0.5;
 }
 
 struct Pieces {
@@ -321,7 +327,8 @@ void addSquares(std::vector<Square>& squares, int section, int lane, const LaneR
         if (square.opens)
             from = pointWhere(run, &LanePoint::row, stop.row - 0.5).along;
         if (square.closes)
-            to = std::min(to, pointWhere(run, &LanePoint::row, stop.row + 0.6).along);
+            to = std::min(
+                to, pointWhere(run, &LanePoint::row, stop.row + closingOf(section, lane)).along);
         square.run = cutOut(run, from, to);
         for (LanePoint& point : square.run)
             point.along -= stop.along;
