@@ -105,14 +105,15 @@ std::string teamTotalText(const StagePoints& points, int team)
 std::string teamNumbersText(int team)
 {
     const int first = riderNumber(team * RIDERS_PER_TEAM);
-    return "(" + std::to_string(first) + "-" + std::to_string(first + RIDERS_PER_TEAM - 1) + ")";
+    return std::string{"("} + std::to_string(first) + "-" +
+           std::to_string(first + RIDERS_PER_TEAM - 1) + ")";
 }
 
 std::vector<std::string> exportMessage()
 {
     const float room = layout.scorecardW * 0.4f;
     const std::string file =
-        "\"" + cutToWidth(shownFileName(raceSetup.standingsFileName), room) + "\"";
+        std::string{"\""} + cutToWidth(shownFileName(raceSetup.standingsFileName), room) + "\"";
     if (view.exportStatus == EXPORT_WRITTEN)
         return {texts.standingsWritten + file + "."};
     if (view.exportStatus == EXPORT_FAILED)

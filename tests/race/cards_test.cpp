@@ -15,7 +15,6 @@ constexpr std::string_view ONE_LAP = "01S23S4S5F12";
 constexpr Square FLAT = {13, 2};
 constexpr Square COBBLES = {61, 4};  // -1
 constexpr Square MOUNTAIN = {31, 2}; // -3
-constexpr Square DESCENT = {44, 2};  // +5
 constexpr int FIRST_WON = SET_CARD_COUNT;
 
 using Cards = Table<int, 2>;
