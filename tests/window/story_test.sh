@@ -146,8 +146,8 @@ playStage()
         elif sheetOpen; then
             return 0
         else
-            # Pays with a card, throws the extra die, rides.
-            xdotool key F7 F5 F1 o t
+            # Pays with a card, dopes, throws one die or two, rides.
+            xdotool key F7 F5 F1 o d y o t
             xdotool key --delay 8 Up Up Up Up Up Up Up Up Up Up Up Right Up Left Up Return
         fi
     done
