@@ -90,6 +90,16 @@ void drawCard(cairo_t* cr, Spot centre, Card card)
     setColour(cr, INK);
     cairo_set_line_width(cr, 2.2);
     cairo_stroke(cr);
+
+    // Their values, as on the cards of the game.
+    Lettering value{.height = 15, .stroke = 2.8, .ink = BLUE, .halo = 0, .haloInk = {}};
+    if (card == Card::WHITE)
+        return drawLettering(cr, "5", centre, value);
+    value.height = 10.5;
+    value.stroke = 2.3;
+    drawLettering(cr, "5", centre + Spot{4.4, 7.8}, value);
+    value.ink = rgb(0xffffff);
+    drawLettering(cr, "6", centre + Spot{-4.4, -7.8}, value);
 }
 
 // The four terrains, and below each the strength cards that a rider may play there: how many, and

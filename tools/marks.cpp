@@ -163,7 +163,8 @@ void paintNumber(cairo_t* cr, const Square& square, const NumberPlace& number)
     const Colour ground = squareColour(square.terrain, square.modifier);
     Lettering style = NUMBER_STYLE;
     style.ink = onDark ? PAPER : INK;
-    style.haloInk = onDark ? blend(ground, rgb(0x200a0c), 0.55) : blend(ground, PAPER, 0.55);
+    const double light = square.terrain == TERRAIN_COBBLES ? 0.85 : 0.55;
+    style.haloInk = onDark ? blend(ground, rgb(0x200a0c), 0.55) : blend(ground, PAPER, light);
     drawLettering(cr, number.text, number.at, style);
 }
 
@@ -307,13 +308,20 @@ struct Sign {
     Spot at;
 };
 
-// Each at the beginning of its section, on free land. C begins on the road of D; where it leaves
-// that, both stand once more.
-constexpr Sign SIGNS[] = {
-    {"A", {424, 216}},  {"E", {324, 754}},  {"B", {774, 597}},  {"D", {1232, 960}},
-    {"C", {1274, 960}}, {"F", {1737, 234}}, {"F", {1358, 568}},
+// Each at the beginning of its section, on free land.
+constexpr Sign SIGNS[] = {{"A", {424, 216}},  {"E", {324, 754}},  {"D", {1232, 960}},
+                          {"C", {1274, 960}}, {"F", {1737, 234}}, {"F", {1358, 568}}};
+
+struct ForkSign {
+    std::string_view text;
+    Spot at;
+    Spot way;
 };
-constexpr Spot FORK_SIGNS[] = {{1729, 795}, {1729, 838}};
+
+// C begins on the road of D; where it leaves that, both stand once more. B has no land of its own
+// behind its line, only beside the climb that leads there.
+constexpr ForkSign FORK_SIGNS[] = {
+    {"C", {1729, 795}, {-0.6, -1}}, {"D", {1729, 838}, {0, -1}}, {"B", {776, 600}, {-1, 0}}};
 
 constexpr Spot START_SIGNS[] = {{928, 239}, {489, 1050}};
 
@@ -321,8 +329,8 @@ void paintLetters(cairo_t* cr)
 {
     for (const Sign& sign : SIGNS)
         paintSign(cr, sign.text, sign.at);
-    paintForkSign(cr, "C", FORK_SIGNS[0], {-0.6, -1});
-    paintForkSign(cr, "D", FORK_SIGNS[1], {0, -1});
+    for (const ForkSign& sign : FORK_SIGNS)
+        paintForkSign(cr, sign.text, sign.at, sign.way);
     paintStartSign(cr, "1", START_SIGNS[0]);
     paintStartSign(cr, "2", START_SIGNS[1]);
 }
@@ -366,8 +374,8 @@ std::vector<Outline> signGround()
         keep(sign.at, 20);
     for (const Spot& at : START_SIGNS)
         keep(at, 28);
-    for (const Spot& at : FORK_SIGNS)
-        keep(at, 28);
+    for (const ForkSign& sign : FORK_SIGNS)
+        keep(sign.at, 28);
     return ground;
 }
 

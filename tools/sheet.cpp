@@ -147,7 +147,7 @@ void drawFinishTable(cairo_t* cr)
     for (int row = 0; row < 16; ++row) {
         const double v = TOP + row * STEP;
         const double middle = v + STEP / 2;
-        constexpr Colour MEDALS[] = {rgb(0xfbe6a4), rgb(0xe4e7ea), rgb(0xf0d3b4)};
+        constexpr Colour MEDALS[] = {rgb(0xfbe6a4), rgb(0xcbd5e0), rgb(0xf0d3b4)};
         const Colour ground = row % 2 == 0 ? PAPER : SOFT;
         area(cr, COLUMNS[0], v, COLUMNS[5], v + STEP, row < 3 ? MEDALS[row] : ground);
         write(cr, std::to_string(row + 1), {92, middle}, 29, INK);
@@ -173,7 +173,7 @@ void drawSprintTable(cairo_t* cr)
     constexpr double TOP = 581;
     constexpr double STEP = 66;
     constexpr const char* POINTS[] = {"10", "5", "3"};
-    constexpr Colour MEDALS[] = {rgb(0xfbe6a4), rgb(0xe4e7ea), rgb(0xf0d3b4)};
+    constexpr Colour MEDALS[] = {rgb(0xfbe6a4), rgb(0xcbd5e0), rgb(0xf0d3b4)};
     area(cr, COLUMNS[1], HEAD, COLUMNS[4], TOP, rgb(0xdfe5ea));
     for (int row = 0; row < 3; ++row) {
         area(cr, COLUMNS[0], TOP + row * STEP, COLUMNS[4], TOP + (row + 1) * STEP, MEDALS[row]);
