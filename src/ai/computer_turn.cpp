@@ -21,7 +21,6 @@ constexpr int GOAL_FINISH = LINE_COUNT; // the finish is within reach of two thr
 constexpr int GOAL_PAST_CLIMB = -10;
 constexpr int FIRST_BLUE_TEAM_CARD = 10;
 constexpr int FIRST_WHITE_TEAM_CARD = 12;
-constexpr int MOVES_FOR_CARD = 4;
 
 Square squareOfMover()
 {

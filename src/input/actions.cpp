@@ -29,8 +29,6 @@ void openTeamSetup()
     enter(STATE_TEAM_SETUP);
 }
 
-static constexpr char RACE_EXTENSION[] = ".race";
-
 static bool raceExists(const std::string& fileName)
 {
     const std::vector<std::string> files = listRaceFiles();

@@ -1,5 +1,7 @@
 #pragma once
 
+constexpr int MOVES_FOR_CARD = 4; // what an event card gives for a card handed in
+
 // Which strength cards a rider may use. A card is named by its slot: 0 to 13 the team's set, 14 to
 // 17 the cards won in the race.
 

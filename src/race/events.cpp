@@ -35,7 +35,7 @@ constexpr Table<EventCard, EVENT_CARD_COUNT> eventCards = {
     {FREE_CARD, 0}, {FREE_CARD, 0}, {FREE_CARD, 0}, {EXTRA_DIE, 0}, {EXTRA_DIE, 0}, {EXTRA_DIE, 0},
     // 21 to 29
     {EXTRA_SPACES, 2}, {EXTRA_SPACES, 2, 1}, {EXTRA_SPACES, 3}, {EXTRA_SPACES, 3}, {EXTRA_SPACES, 4},
-    {EXTRA_SPACES, 4}, {EXTRA_SPACES, 4, 1}, {EXTRA_SPACES, 4, 1}, {PAID_SPACES, 4}};
+    {EXTRA_SPACES, 4}, {EXTRA_SPACES, 4, 1}, {EXTRA_SPACES, 4, 1}, {PAID_SPACES, 0}};
 // clang-format on
 
 Rider& drawingRider()

@@ -11,8 +11,6 @@
 #include "race/race_state.h"
 #include "race/turn_cycle.h"
 
-static constexpr int MOVES_FOR_CARD = 4;
-
 int nextPendingRider()
 {
     return frontMostRider([](const Rider& rider) { return rider.pendingHandIn != 0; });

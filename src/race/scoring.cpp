@@ -7,6 +7,8 @@
 #include "board/course.h"
 #include "store/race_file.h"
 
+#include <algorithm>
+
 static constexpr int FINISH_LINE = SPRINT_COUNT;
 
 static void takePlace(int line, int rider)
@@ -51,6 +53,12 @@ StagePoints stagePoints(const Table<int, RESULT_SLOT_COUNT>& slots, bool running
         points.team[riderTeam(rider)] += points.total[rider];
     }
     return points;
+}
+
+bool wholeTeamIn(const StagePoints& points, int team)
+{
+    const int* first = points.place.begin() + team * RIDERS_PER_TEAM;
+    return std::find(first, first + RIDERS_PER_TEAM, -1) == first + RIDERS_PER_TEAM;
 }
 
 GeneralPoints generalPoints()

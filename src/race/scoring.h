@@ -27,6 +27,9 @@ struct StagePoints {
 // is running they are shown for everyone.
 StagePoints stagePoints(const Table<int, RESULT_SLOT_COUNT>& slots, bool running);
 
+// Whether all four riders of a team have a finish place.
+bool wholeTeamIn(const StagePoints& points, int team);
+
 struct GeneralPoints {
     Table<int, RIDER_COUNT> rider{};
     Table<int, TEAM_COUNT> team{};

@@ -11,7 +11,6 @@
 #include <string_view>
 #include <sys/stat.h>
 
-static constexpr std::string_view EXTENSION = ".race";
 static constexpr std::size_t NAME_FIELD_SIZE = NAME_LENGTH_MAX + 1;
 static constexpr std::size_t HEAD_SIZE = 1 + TEAM_COUNT * (NAME_FIELD_SIZE + 1);
 static constexpr std::size_t STAGE_SIZE = PACKED_COURSE_SIZE + 2 + RESULT_SLOT_COUNT * 4;
@@ -78,7 +77,8 @@ std::vector<std::string> listRaceFiles()
         return names;
     while (const dirent* entry = readdir(folder)) {
         const std::string_view name = entry->d_name;
-        if (name.ends_with(EXTENSION) && !name.starts_with('.') && isFile(dirfd(folder), *entry))
+        if (name.ends_with(RACE_EXTENSION) && !name.starts_with('.') &&
+            isFile(dirfd(folder), *entry))
             names.emplace_back(name);
     }
     closedir(folder);

@@ -14,6 +14,8 @@
 //      1   4 x 14 the teams: the name, NUL-terminated in 13 bytes, and 1 if a person plays it
 //     57  n x 116 the stages: the packed course, 2 bytes of 0, and the 25 result slots as int32
 
+constexpr char RACE_EXTENSION[] = ".race";
+
 // The head of a race file: of the race chosen on the list, which isn't the race in memory yet.
 struct RaceHead {
     bool eventCardsOn = false;

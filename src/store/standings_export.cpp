@@ -104,21 +104,13 @@ static std::string riderColumns(const StageBlock& stage, int place)
     return text;
 }
 
-static bool isTeamIn(const StageBlock& stage, int team)
-{
-    for (int place = 0; place < RIDERS_PER_TEAM; ++place)
-        if (stage.points.place[team * RIDERS_PER_TEAM + place] == -1)
-            return false;
-    return true;
-}
-
 // A team's sum is final, and shown, once its last rider is in.
 static std::string teamSumColumns(const StageBlock& stage)
 {
     std::string text;
     for (int team = 0; team < TEAM_COUNT; ++team) {
         text += ";Tot.;";
-        if (!stage.running || isTeamIn(stage, team))
+        if (!stage.running || wholeTeamIn(stage.points, team))
             text += std::to_string(stage.points.team[team]);
     }
     return text;

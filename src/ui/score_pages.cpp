@@ -90,12 +90,6 @@ std::string riderTotalText(const StagePoints& points, int rider)
     return stageOver || race.riders[rider].disqualified ? "0" : "";
 }
 
-static bool wholeTeamIn(const StagePoints& points, int team)
-{
-    const int* first = points.place.begin() + team * RIDERS_PER_TEAM;
-    return std::find(first, first + RIDERS_PER_TEAM, -1) == first + RIDERS_PER_TEAM;
-}
-
 std::string teamTotalText(const StagePoints& points, int team)
 {
     const bool mayGrow = gameState == STATE_SCORECARD && shownStageRuns();

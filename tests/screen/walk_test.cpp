@@ -548,17 +548,13 @@ private:
 
 struct Named {
     const char* name;
-    Rect (*at)();
-};
-
-struct NamedRow {
-    const char* name;
     Rect (*at)(int);
-    int count;
+    int count; // how many there are of its kind
 };
 
 // clang-format off
-#define CONTROL(control) {#control, control}
+#define CONTROL(control) {#control, [](int) { return control(); }, 1}
+#define CONTROL_ROW(control, count) {#control, control, count}
 const Named CONTROLS[] = {
     CONTROL(cornerButton), CONTROL(dialogBox), CONTROL(dialogTitleBar), CONTROL(dialogOkButton),
     CONTROL(dialogLeftButton), CONTROL(dialogRightButton), CONTROL(viewToggle),
@@ -582,10 +578,6 @@ const Named CONTROLS[] = {
     CONTROL(scorecardTitleBar), CONTROL(scorecardOkButton), CONTROL(exportButton),
     CONTROL(prevStageButton), CONTROL(nextStageButton), CONTROL(generalViewButton),
     CONTROL(stageViewButton), CONTROL(overviewPicture), CONTROL(positionsOkButton),
-};
-
-#define CONTROL_ROW(control, count) {#control, control, count}
-const NamedRow CONTROL_ROWS[] = {
     CONTROL_ROW(cardPlace, CARD_SLOT_COUNT), CONTROL_ROW(teamTab, 4), CONTROL_ROW(dicePlace, 2),
     CONTROL_ROW(handInSlot, 2), CONTROL_ROW(languageBox, 4), CONTROL_ROW(teamNameBox, 4),
     CONTROL_ROW(teamComputerBox, 4), CONTROL_ROW(coursePicture, 4), CONTROL_ROW(courseCell, 4),
@@ -597,10 +589,9 @@ const NamedRow CONTROL_ROWS[] = {
 void tryControls(Walk& walk)
 {
     for (const Named& control : CONTROLS)
-        walk.tryControl(control.name, control.at());
-    for (const NamedRow& row : CONTROL_ROWS)
-        for (int i = 0; i < row.count; ++i)
-            walk.tryControl((std::string(row.name) + " " + std::to_string(i)).c_str(), row.at(i));
+        for (int i = 0; i < control.count; ++i)
+            walk.tryControl((std::string(control.name) + " " + std::to_string(i)).c_str(),
+                            control.at(i));
 }
 
 } // namespace

@@ -18,17 +18,24 @@ endGame()
     [ -z "$gamePid" ] || kill "$gamePid" 2> /dev/null || true
 }
 
-# Where the controls are on a full-screen window of the display's size. The same fractions as the
-# layout's, so that a control that has moved is a test that fails.
-findControls()
+# Finds places on the screen: awk that calls put(NAME, X, Y) with pixels, from the display's width w
+# and height h, and v, the width of the drawing area, which is w on a screen of 5:4.
+placeControls()
 {
     local width height name place
     read -r width height < <(xdotool getdisplaygeometry)
     while read -r name place; do
         at[$name]=$place
-    done < <(awk -v w="$width" -v h="$height" '
+    done < <(awk -v w="$width" -v v="$width" -v h="$height" '
         function put(name, x, y) { printf "%s %d %d\n", name, left + x, y }
-        BEGIN {
+        BEGIN {'"$1"'}')
+}
+
+# Where the controls are on a full-screen window of the display's size. The same fractions as the
+# layout's, so that a control that has moved is a test that fails.
+findControls()
+{
+    placeControls '
             shape = w / h
             if (shape >= 1.6) share = 25 / 32
             else if (shape == 1.25) share = 1
@@ -66,7 +73,7 @@ findControls()
             put("sheetOk", dialogX + dialogW * 0.85, cardY + sheetH - buttonH * 0.7)
             for (i = 0; i < 4; i++)
                 put("tab" i, panelX + (i + 0.1) * panelW * 0.25, hud + h * 0.176 + v * 0.017)
-        }')
+    '
 }
 
 # The program in a folder of its own with pictures and, as the second argument, a settings file's

@@ -12,13 +12,7 @@ tabColours=(009900 990000 808080 000099)
 # The controls that only a person needs, on a screen of 5:4.
 findPeoplesControls()
 {
-    local width height name place
-    read -r width height < <(xdotool getdisplaygeometry)
-    while read -r name place; do
-        at[$name]=$place
-    done < <(awk -v v="$width" -v h="$height" '
-        function put(name, x, y) { printf "%s %d %d\n", name, x, y }
-        BEGIN {
+    placeControls '
             cardW = int(v * 3 / 70); cardH = int(h * 12 / 175); panelW = v * 0.496
             diceX = v * 0.02 + panelW + (panelW - 9 * cardW) / 10
             put("languages", v * 0.5, h * 0.3 + 10)
@@ -34,7 +28,7 @@ findPeoplesControls()
             put("finishMiddle", v * 0.45 + h * 0.01, h * 0.885)
             put("save", v * 0.8 - v * 0.032 + 8, h * 0.915)
             put("firstDie", diceX + cardH * 0.5, h * 0.761 + cardH * 0.62)
-        }')
+    '
 }
 
 # Whether two looks at a part of the screen are the same: look BOX, with BOX as for import -crop.

@@ -14,13 +14,7 @@ stage=116
 # The controls of this story only, on a screen of 5:4.
 findMoreControls()
 {
-    local width height name place
-    read -r width height < <(xdotool getdisplaygeometry)
-    while read -r name place; do
-        at[$name]=$place
-    done < <(awk -v v="$width" -v h="$height" '
-        function put(name, x, y) { printf "%s %d %d\n", name, x, y }
-        BEGIN {
+    placeControls '
             box = v * 0.4 + 97 * 1.2
             for (i = 0; i < 2; i++) {
                 put("computer" i, box + 3, h * 0.41 + i * (h * 0.01 + 15))
@@ -35,7 +29,7 @@ findMoreControls()
             put("savedOk", v * 0.422 + 180, h * 0.935)
             put("firstRace", v * 0.2 + 12, h * 0.2 + 12)
             put("listOkEdge", v * 0.5 + v * 0.064 * 0.6 + 3, h * 0.8 + 4)
-        }')
+    '
 }
 
 # Whether the first name on the list is yellow.
