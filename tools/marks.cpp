@@ -123,7 +123,8 @@ NumberPlace placeNumber(const Square& square, const std::vector<Square>& squares
     if (square.modifier == 0)
         return best;
     NumberPlace number;
-    number.text = (square.modifier > 0 ? "+" : "-") + std::to_string(std::abs(square.modifier));
+    number.text = square.modifier > 0 ? '+' : '-';
+    number.text += std::to_string(std::abs(square.modifier));
     number.halfWidth = (letteringWidth(number.text, NUMBER_STYLE) + NUMBER_STYLE.stroke) / 2;
     double least = 1e9;
     for (const bool atEnd : {false, true}) {

@@ -1,9 +1,10 @@
 #include "board/pictures.h"
 
-#include "store/bytes.h"
+#include "app/files.h"
 
 #include <csetjmp>
 #include <cstdio>
+#include <jerror.h>
 #include <jpeglib.h>
 
 // An error inside libjpeg is left by longjmp, so nothing between the setjmp and the jump may have a
@@ -24,11 +25,26 @@ static void failWithMessage(j_common_ptr info)
     std::longjmp(reader.failed, 1);
 }
 
-// A warning means damaged data, most of all a file cut short, whose missing part libjpeg would fill
-// with grey. Levels from 0 only trace.
-static void failOnWarning(j_common_ptr info, int level)
+// Whether a warning leaves every pixel as it was meant: it is about stray bytes, or about what the
+// file says of itself.
+static bool isHarmless(int warning)
 {
-    if (level < 0)
+    switch (warning) {
+    case JWRN_EXTRANEOUS_DATA:
+    case JWRN_ADOBE_XFORM:
+    case JWRN_JFIF_MAJOR:
+    case JWRN_NOT_SEQUENTIAL:
+        return true;
+    default:
+        return false;
+    }
+}
+
+// Any other warning means damaged data, most of all a file cut short, whose missing part libjpeg
+// would fill with grey. Levels from 0 only trace.
+static void failOnDamage(j_common_ptr info, int level)
+{
+    if (level < 0 && !isHarmless(info->err->msg_code))
         failWithMessage(info);
 }
 
@@ -76,7 +92,7 @@ static bool decode(JpegReader& reader, std::FILE* file, const Picture& wanted, b
     reader.info.err = jpeg_std_error(&reader.errors);
     reader.info.client_data = &reader;
     reader.errors.error_exit = failWithMessage;
-    reader.errors.emit_message = failOnWarning;
+    reader.errors.emit_message = failOnDamage;
     if (setjmp(reader.failed))
         return false;
 

@@ -127,6 +127,22 @@ TEST_F(PictureFiles, RowsAreMirroredAndStayInOrder)
     EXPECT_EQ(colourAt(picture, 0, 8), (Colour{90, 0, 90}));     // block 8 opens the second row
 }
 
+TEST_F(PictureFiles, StrayBytesBeforeAMarkerHarmNoPixel)
+{
+    const Bytes bytes = riderJpeg();
+    write(bytes);
+    Picture clean{RIDER_PICTURE_SIZE, RIDER_PICTURE_SIZE, 3, {}};
+    ASSERT_TRUE(loadPicture(path().c_str(), clean, false));
+    for (const std::ptrdiff_t at : {std::ssize(bytes) - 2, std::ptrdiff_t{2}}) {
+        Bytes stray = bytes;
+        stray.insert(stray.begin() + at, {1, 2, 3});
+        write(stray);
+        Picture picture{RIDER_PICTURE_SIZE, RIDER_PICTURE_SIZE, 3, {}};
+        EXPECT_TRUE(loadPicture(path().c_str(), picture, false)) << at;
+        EXPECT_EQ(picture.bytes, clean.bytes) << at;
+    }
+}
+
 TEST_F(PictureFiles, KeyColourEndsExactly)
 {
     write(jpegOf(RIDER_PICTURE_SIZE, RIDER_PICTURE_SIZE,
