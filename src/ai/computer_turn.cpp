@@ -204,6 +204,9 @@ void planComputerMove(int moves, Square start)
     RouteBest best{.row = start.row, .lane = start.lane};
     findRoute(from, budget, {.rider = race.currentRider, .simulateFollowers = true}, best);
     layRoute(best.path);
+    // For whom no square was free at the round's end, he is back with his first step.
+    if (race.moveBudget > 0)
+        race.riders[race.currentRider].offBoard = 0;
     enter(STATE_ANIMATE);
     armMoveTimer(0);
 }

@@ -162,6 +162,13 @@ int endStartLane()
     return opensWith(courseText, '6') ? 8 : 5;
 }
 
+void leaveSquare(int rider)
+{
+    int& occupant = course.courseOccupant[race.riders[rider].row][race.riders[rider].lane];
+    if (occupant == rider)
+        occupant = -1;
+}
+
 int terrainOf(int rider)
 {
     return terrainAt(race.riders[rider].row, race.riders[rider].lane);

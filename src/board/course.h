@@ -121,6 +121,10 @@ inline int lineRow(int line)
     return line < SPRINT_COUNT ? course.sprintRows[line] : course.finishRow;
 }
 
+// Takes a rider off the grid. Who was lifted off the board is not on it: his square may be
+// another's.
+void leaveSquare(int rider);
+
 // Terrain under a rider.
 int terrainOf(int rider);
 

@@ -175,12 +175,13 @@ static bool goesOnTooLong(std::string_view text)
     return countCourseLaps(beforeLast, LAPS_DRIVEN) >= LAPS_MAX;
 }
 
-// Whether the character may stand at this place behind a start section.
+// Whether the character may stand at this place behind a start section. That one bears no mark: on
+// its rows the riders are placed.
 static bool fitsBehind(std::string_view before, char letter)
 {
     if (isDigit(letter))
         return before.back() != 'F' && mayFollow(lastSection(before), sectionOf(letter));
-    return isDigit(before.back()) && (letter == 'S' || letter == 'F');
+    return before.size() > 1 && isDigit(before.back()) && (letter == 'S' || letter == 'F');
 }
 
 bool isFinishedDesign(std::string_view text)

@@ -85,7 +85,7 @@ static void resumeMove()
         return;
     }
     gameState = STATE_COMPUTING;
-    course.courseOccupant[rider.row][rider.lane] = -1;
+    leaveSquare(race.currentRider);
     race.moveBudget = race.dice[0] + race.dice[1] + race.extraMoves;
     redrawNow();
     planComputerMove(race.moveBudget, {0, 0});

@@ -33,6 +33,8 @@ void stepRider(char letter)
         return;
     mover().row = landing.row;
     mover().lane = landing.lane;
+    // For whom no square was free at the round's end, he is back with his first step.
+    mover().offBoard = 0;
     race.pathSquares[++race.stepsTaken] = {static_cast<float>(landing.row),
                                            static_cast<float>(landing.lane)};
     moveTo(boardPointOfSquare(landing.row, landing.lane, race.currentRider));
@@ -70,15 +72,12 @@ void endHumanMove()
 {
     if (gameState != STATE_MOVE || !mayEndMove())
         return;
-    const auto startRow = static_cast<int>(race.moveStartRow);
-    course.courseOccupant[startRow][static_cast<int>(race.moveStartLane)] = -1;
     mover().hasMoved = 1;
     race.moveEndRow = static_cast<float>(mover().row);
     race.moveEndLane = static_cast<float>(mover().lane);
-    recordCrossing(startRow, mover().row, race.currentRider);
-    if (race.stepsTaken == 0)
-        mover().offBoard = 1;
-    else
+    recordCrossing(static_cast<int>(race.moveStartRow), mover().row, race.currentRider);
+    mover().offBoard = race.stepsTaken == 0;
+    if (!mover().offBoard)
         course.courseOccupant[mover().row][mover().lane] = race.currentRider;
     leaveToFollowers(race.stepsTaken);
 }
@@ -88,8 +87,7 @@ void endComputerMove()
     mover().hasMoved = 1;
     race.moveEndRow = race.pathSquares[race.moveBudget].row;
     race.moveEndLane = race.pathSquares[race.moveBudget].lane;
-    if (race.moveBudget == 0)
-        mover().offBoard = 1;
+    mover().offBoard = race.moveBudget == 0;
     if (!mover().offBoard) {
         recordCrossing(static_cast<int>(race.moveStartRow), static_cast<int>(race.moveEndRow),
                        race.currentRider);

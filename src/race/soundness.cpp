@@ -54,6 +54,8 @@ static std::string gridFault()
     return {};
 }
 
+// Behind a sprint a rider may be set back, cross it again and take a second place there. Who is in
+// leaves the board.
 static std::string placesFault(int line, int places)
 {
     Table<bool, RIDER_COUNT> seen{};
@@ -64,8 +66,10 @@ static std::string placesFault(int line, int places)
             gap = true;
             continue;
         }
-        if (rider < 0 || rider >= RIDER_COUNT || seen[rider])
-            return "a place holds nobody, or somebody twice";
+        if (rider < 0 || rider >= RIDER_COUNT)
+            return "a place holds nobody";
+        if (line == SPRINT_COUNT && seen[rider])
+            return about(rider, "came in twice");
         if (gap && !race.anyDoping)
             return about(rider, "took a place behind an empty one");
         seen[rider] = true;

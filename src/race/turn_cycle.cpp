@@ -153,7 +153,7 @@ static void chooseNextRider()
 static void beginTurn()
 {
     const Rider& rider = race.riders[race.currentRider];
-    course.courseOccupant[rider.row][rider.lane] = -1;
+    leaveSquare(race.currentRider);
     race.moveStartRow = static_cast<float>(rider.row);
     race.moveStartLane = static_cast<float>(rider.lane);
     restMotion();
@@ -184,8 +184,7 @@ void liftOffBoard(int rider)
     Rider& record = race.riders[rider];
     record.offBoard = 1;
     record.hasMoved = 1;
-    if (course.courseOccupant[record.row][record.lane] == rider)
-        course.courseOccupant[record.row][record.lane] = -1;
+    leaveSquare(rider);
     placeAt(rider, {record.row, record.lane});
 }
 

@@ -139,7 +139,8 @@ TEST(Designer, KnowsItsOwnDesignsAndNothingElse)
             EXPECT_LE(course.courseRowCount, 480) << broken;
         }
     }
-    for (const char* text : {"", "F", "0", "01", "1F", "0F1F", "01F23", "02F", "01SSF", "01FF",
-                             "0S1F2", "01S2S3S4S5F", "0123451234512345123451F"})
+    for (const char* text :
+         {"", "F", "0", "01", "1F", "0F1F", "0F", "6S45F", "0S1F", "01F23", "02F", "01SSF", "01FF",
+          "0S1F2", "01S2S3S4S5F", "0123451234512345123451F"})
         EXPECT_FALSE(isFinishedDesign(text)) << text;
 }

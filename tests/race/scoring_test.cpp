@@ -3,6 +3,9 @@
 #include "app/game_state.h"
 #include "app/view.h"
 #include "board/course.h"
+#include "race/soundness.h"
+#include "race/turn_cycle.h"
+#include "store/race_file.h"
 #include "support/own_folder.h"
 #include "support/races.h"
 
@@ -139,6 +142,29 @@ TEST(CloseStage, AStageOfSeveralIsAddedWithoutTheDisqualifiedAndWritten)
     EXPECT_EQ(view.scorecardStage, 2);
     EXPECT_FALSE(view.scorecardGeneral);
     EXPECT_EQ(std::filesystem::file_size("Tour.race"), 57u + 3 * 116);
+}
+
+// A rider behind a sprint line who is set back crosses it again, and both places are his.
+TEST(CloseStage, SecondPlacesAtASprintOutlastTheFile)
+{
+    const OwnFolder folder;
+    setUpPersonsRace(THREE_SPRINTS, {{4, 7, 2}, {5, 7, 4}});
+    const int line = course.sprintRows[0];
+    recordCrossing(line, line + 1, 4);
+    liftOffBoard(4);
+    race.riders[4].row = line;
+    recordCrossing(line, line + 2, 4);
+    recordCrossing(line, line + 1, 5);
+    recordCrossing(course.finishRow, course.finishRow + 1, 4);
+    EXPECT_EQ(raceFault(), "");
+    const auto slots = places({{0, 4}, {1, 4}, {2, 5}, {FINISH_SLOT, 4}});
+    ASSERT_EQ(race.resultSlots, slots);
+    raceSetup.multiStage = true;
+    raceSetup.raceFileName = "Tour.race";
+    closeStage();
+    ASSERT_TRUE(readRace("Tour.race"));
+    EXPECT_EQ(raceSetup.raceStages.at(0).slots, slots);
+    EXPECT_EQ(generalPoints().rider[4], 10 + 5 + 50);
 }
 
 TEST(CloseStage, ARaceThatCantBeWrittenIsAskedAboutAndStaysInMemory)

@@ -3,6 +3,8 @@
 #include "app/game_state.h"
 #include "app/view.h"
 #include "board/course.h"
+#include "race/movement.h"
+#include "race/soundness.h"
 #include "support/races.h"
 
 #include <gtest/gtest.h>
@@ -182,6 +184,39 @@ TEST(SetBack, WithoutASquareHeIsPassedOver)
     EXPECT_EQ(race.riders[6].offBoard, 1);
     EXPECT_EQ(race.riders[5].offBoard, 0);
     EXPECT_EQ(race.currentRider, 7);
+}
+
+// At the very back there may be no square for him. He plays all the same, and his first step brings
+// him back; whoever stands on his old square stays there.
+TEST(SetBack, WhoFoundNoSquareIsBackOnceHeHasMoved)
+{
+    for (const bool person : {true, false}) {
+        setUpPersonsRace(ONE_LAP, {{0, 0, 0}, {1, 0, 1}, {2, 0, 2}, {3, 0, 3}, {4, 0, 4}});
+        if (!person)
+            for (int rider = 0; rider < RIDERS_PER_TEAM; ++rider)
+                race.riders[rider].isHuman = 0;
+        race.riders[0].offBoard = 1;
+        course.courseOccupant[0][0] = 5;
+        race.riders[5] = {.row = 0, .lane = 0, .hasMoved = 1, .isHuman = 1};
+        for (const int rider : {1, 2, 3, 4})
+            race.riders[rider].hasMoved = 1;
+        nextTurn();
+        ASSERT_EQ(race.currentRider, 0);
+        EXPECT_EQ(occupant(0, 0), 5);
+        if (person) {
+            beginPersonsMove(0, 1);
+            course.courseOccupant[0][0] = 5;
+            steer("M");
+            endHumanMove();
+        } else {
+            while (gameState == STATE_ANIMATE && race.currentRider == 0)
+                advanceComputerRace();
+        }
+        EXPECT_EQ(race.riders[0].offBoard, 0);
+        EXPECT_GT(race.riders[0].row, 0);
+        EXPECT_EQ(occupant(0, 0), 5);
+        EXPECT_EQ(raceFault(), "");
+    }
 }
 
 TEST(StageEnd, ComesWhenNobodyIsLeftToPlay)
