@@ -14,6 +14,7 @@
 
 #include <GL/freeglut.h>
 
+#include <csignal>
 #include <cstdlib>
 #include <ctime>
 
@@ -59,6 +60,8 @@ static void registerCallbacks()
 int main(int argc, char** argv)
 {
     std::srand(static_cast<unsigned>(std::time(nullptr)));
+    // A file that may grow no further is a failed save, and no reason to end.
+    std::signal(SIGXFSZ, SIG_IGN);
     openWindow(&argc, argv);
     registerCallbacks();
     reportHeldKeysOnce();

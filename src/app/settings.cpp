@@ -2,8 +2,9 @@
 
 Settings settings;
 Settings settingsBackup;
+bool ratioChosenByProgram = false;
 
 float tickDistance()
 {
-    return settings.stepDistance > 0.0f ? settings.stepDistance : DEFAULT_STEP_DISTANCE;
+    return settings.stepDistance >= 1.0f ? settings.stepDistance : DEFAULT_STEP_DISTANCE;
 }

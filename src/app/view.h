@@ -25,3 +25,6 @@ struct View {
 };
 
 extern View view;
+
+// Back to the flat view as a race begins with it, whatever was chosen before.
+void lookFromAbove();

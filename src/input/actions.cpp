@@ -1,5 +1,6 @@
 #include "input/actions.h"
 
+#include "app/files.h"
 #include "app/host.h"
 #include "app/overlays.h"
 #include "app/view.h"
@@ -29,12 +30,6 @@ void openTeamSetup()
     enter(STATE_TEAM_SETUP);
 }
 
-static bool raceExists(const std::string& fileName)
-{
-    const std::vector<std::string> files = listRaceFiles();
-    return std::ranges::find(files, fileName) != files.end();
-}
-
 static void findSetupFaults()
 {
     teamSetup.setupMessages.clear();
@@ -46,7 +41,7 @@ static void findSetupFaults()
         return;
     if (raceSetup.raceName.empty())
         teamSetup.setupMessages.push_back(texts.enterRaceName);
-    else if (raceExists(utf8(raceSetup.raceName) + RACE_EXTENSION))
+    else if (nameTaken(utf8(raceSetup.raceName) + RACE_EXTENSION))
         teamSetup.setupMessages.push_back(withName(texts.raceNameExists, raceSetup.raceName));
 }
 

@@ -41,11 +41,14 @@ static void chooseRace(int entry)
     redrawNow();
 }
 
+// A race whose file can't be read stays on the list: to go on without its stages would lose them
+// when the next one is written.
 static void continueRace()
 {
     if (!raceChosen())
         return;
-    readRace(raceSetup.raceFileName);
+    if (!readRace(raceSetup.raceFileName))
+        return redrawNow();
     keepStageWithinRace();
     goToCourses();
 }

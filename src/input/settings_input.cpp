@@ -42,12 +42,12 @@ static bool ratioDiffers(double w, double h)
 
 static void chooseRatio(const ScreenRatio& choice)
 {
+    // Who picks what the program had guessed makes it his own choice.
+    settingsScreen.guessGivenUp |= std::exchange(ratioChosenByProgram, false);
     if (!ratioDiffers(choice.w, choice.h))
         return;
     settings.ratioW = choice.w;
     settings.ratioH = choice.h;
-    settingsScreen.guessGivenUp |= ratioChosenByProgram;
-    ratioChosenByProgram = false;
     activate(firstOpenSettingsField());
 }
 
@@ -72,7 +72,7 @@ static void confirmSettings()
     settings.stepDistance = static_cast<float>(numberIn(FIELD_STEP_DISTANCE));
     settings.stepDelay = numberIn(FIELD_STEP_DELAY);
     fillSettingsFields(settings);
-    settingsScreen.guessGivenUp = ratioChosenByProgram = false;
+    settingsScreen.guessGivenUp = false;
     writeSettings();
     if (ratioDiffers(settingsBackup.ratioW, settingsBackup.ratioH))
         layOutAnew();

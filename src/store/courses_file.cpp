@@ -1,8 +1,9 @@
 #include "store/courses_file.h"
 
+#include "app/bytes.h"
+#include "app/files.h"
 #include "board/course.h"
 #include "board/designer.h"
-#include "store/bytes.h"
 
 #include <cstdio>
 #include <vector>

@@ -1,8 +1,9 @@
 #include "store/race_file.h"
 
+#include "app/bytes.h"
+#include "app/files.h"
 #include "app/game_state.h"
 #include "board/course.h"
-#include "store/bytes.h"
 
 #include <chrono>
 #include <dirent.h>
@@ -20,6 +21,14 @@ static constexpr std::size_t STAGES_READ_MAX = 9999;
 static constexpr std::size_t READ_SIZE_MAX = HEAD_SIZE + STAGES_READ_MAX * STAGE_SIZE;
 
 RaceHead racePreview;
+
+// What a race's file held when this game last read or wrote it.
+struct KnownFile {
+    std::string name;
+    std::size_t stages = 0;
+};
+
+static KnownFile knownFile;
 
 // The state of the folder when it was last listed.
 struct FolderStamp {
@@ -112,11 +121,12 @@ static void putHead(std::vector<std::uint8_t>& bytes, const RaceHead& head)
     }
 }
 
-// A rider can't take two places at one line: the first one is his.
-static void dropRepeats(Table<int, RESULT_SLOT_COUNT>& slots, int first, int places)
+// A rider comes in once: the first of his places at the finish is his. Behind a sprint he may have
+// been set back and have crossed it again, so that both are.
+static void dropRepeatsAtFinish(Table<int, RESULT_SLOT_COUNT>& slots)
 {
     Table<bool, RIDER_COUNT> seen{};
-    for (int slot = first; slot < first + places; ++slot) {
+    for (int slot = FINISH_SLOT; slot < RESULT_SLOT_COUNT; ++slot) {
         int& rider = slots[slot];
         if (rider == -1)
             continue;
@@ -139,9 +149,7 @@ static StageRecord takeStage(ByteReader& reader)
         if (rider < 0 || rider >= RIDER_COUNT)
             rider = -1;
     }
-    for (int sprint = 0; sprint < SPRINT_COUNT; ++sprint)
-        dropRepeats(stage.slots, sprint * SPRINT_PLACES, SPRINT_PLACES);
-    dropRepeats(stage.slots, FINISH_SLOT, RIDER_COUNT);
+    dropRepeatsAtFinish(stage.slots);
     return stage;
 }
 
@@ -154,22 +162,30 @@ static void putStage(std::vector<std::uint8_t>& bytes, const StageRecord& stage)
         putInt32(bytes, rider);
 }
 
-static void readFile(const std::string& fileName, RaceHead& head)
+static std::size_t stagesIn(const std::vector<std::uint8_t>& bytes)
+{
+    return bytes.size() < HEAD_SIZE ? 0 : (bytes.size() - HEAD_SIZE) / STAGE_SIZE;
+}
+
+// False if the bytes can't be read; what they hold doesn't matter.
+static bool readFile(const std::string& fileName, RaceHead& head)
 {
     raceSetup.raceStages.clear();
     std::vector<std::uint8_t> bytes;
     if (!readWholeFile(fileName.c_str(), READ_SIZE_MAX, bytes))
-        return;
+        return false;
+    knownFile = {fileName, stagesIn(bytes)};
     ByteReader reader{bytes};
     if (!takeHead(reader, head))
-        return;
+        return true;
     while (reader.rest.size() >= STAGE_SIZE)
         raceSetup.raceStages.push_back(takeStage(reader));
+    return true;
 }
 
 void readRacePreview(const std::string& fileName)
 {
-    readFile(fileName, racePreview);
+    static_cast<void>(readFile(fileName, racePreview));
 }
 
 static RaceHead liveHead()
@@ -180,14 +196,30 @@ static RaceHead liveHead()
     return head;
 }
 
-void readRace(const std::string& fileName)
+bool readRace(const std::string& fileName)
 {
     RaceHead head = liveHead();
-    readFile(fileName, head);
+    if (!readFile(fileName, head))
+        return false;
     raceSetup.eventCardsOn = head.eventCardsOn;
     raceSetup.teamName = head.teamName;
     for (int rider = 0; rider < RIDER_COUNT; ++rider)
         race.riders[rider].isHuman = head.isHuman[riderTeam(rider)];
+    return true;
+}
+
+// Whether the file holds no stage that this game doesn't know: another one may have gone on with
+// the same race meanwhile. What this game has written itself is known, also if it was told that the
+// write had failed.
+static bool nobodyWentOn(const std::string& fileName, const std::vector<std::uint8_t>& written)
+{
+    if (!nameTaken(fileName))
+        return true;
+    std::vector<std::uint8_t> bytes;
+    if (!readWholeFile(fileName.c_str(), READ_SIZE_MAX, bytes))
+        return false;
+    const std::size_t known = knownFile.name == fileName ? knownFile.stages : 0;
+    return stagesIn(bytes) <= known || bytes == written;
 }
 
 bool writeRace(const std::string& fileName)
@@ -197,7 +229,10 @@ bool writeRace(const std::string& fileName)
     putHead(bytes, liveHead());
     for (const StageRecord& stage : raceSetup.raceStages)
         putStage(bytes, stage);
-    return writeWholeFile(fileName.c_str(), bytes);
+    if (!nobodyWentOn(fileName, bytes) || !writeWholeFile(fileName.c_str(), bytes))
+        return false;
+    knownFile = {fileName, raceSetup.raceStages.size()};
+    return true;
 }
 
 static int courseCode(std::size_t index)

@@ -35,14 +35,16 @@ std::vector<std::string> listRaceFiles();
 bool raceListStale();
 
 // Reads a race into raceSetup.raceStages, its head into racePreview or into the race in memory.
-// Whatever the bytes, slots hold riders or -1, and each rider at most once at each line. A head
-// that is cut short leaves the fields behind the cut as they were, and no stages; a file that can't
-// be read leaves them all. Stages behind the 9999th aren't read.
+// Whatever the bytes, slots hold riders or -1, and each rider at most once at the finish. A head
+// that is cut short leaves the fields behind the cut as they were, and no stages. A file that can't
+// be read leaves them all, without stages; readRace answers false then. Stages behind the 9999th
+// aren't read.
 void readRacePreview(const std::string& fileName);
-void readRace(const std::string& fileName);
+bool readRace(const std::string& fileName);
 
-// Replaces the file with the race in memory. False if that fails at any point; the old file is left
-// as it was then.
+// Replaces the file with the race in memory. False if that fails at any point, and if the file
+// holds more stages than when this game last read or wrote it, since somebody else has gone on with
+// the race; the old file is left as it was then.
 bool writeRace(const std::string& fileName);
 
 // Adds the stage that is over to raceSetup.raceStages. Disqualified riders leave no trace in it.

@@ -1,8 +1,9 @@
 #include "store/settings_file.h"
 
+#include "app/bytes.h"
+#include "app/files.h"
 #include "app/settings.h"
 #include "race/race_state.h"
-#include "store/bytes.h"
 
 #include <algorithm>
 
@@ -41,6 +42,7 @@ static void replaceOutOfRange()
 void readSettings()
 {
     settings = {};
+    ratioChosenByProgram = false;
     raceSetup.teamName = {};
     std::vector<std::uint8_t> bytes;
     if (!readWholeFile(FILE_NAME, FILE_SIZE, bytes))
@@ -67,8 +69,10 @@ bool writeSettings()
     putInt32(bytes, settings.stepTime);
     putFloat(bytes, settings.stepDistance);
     putInt32(bytes, settings.stepDelay);
-    putDouble(bytes, settings.ratioW);
-    putDouble(bytes, settings.ratioH);
+    const Settings undecided;
+    const Settings& ratio = ratioChosenByProgram ? undecided : settings;
+    putDouble(bytes, ratio.ratioW);
+    putDouble(bytes, ratio.ratioH);
     for (const std::string& name : raceSetup.teamName)
         putText(bytes, name, NAME_FIELD_SIZE);
     return writeWholeFile(FILE_NAME, bytes);

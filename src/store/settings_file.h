@@ -7,5 +7,6 @@
 // isn't offered counts as none chosen. Fields behind the end of a short file are 0 or empty.
 void readSettings();
 
-// Replaces the file. False if that fails at any point; the settings hold for this run all the same.
+// Replaces the file. A ratio that the program chose itself is kept as none. False if that fails at
+// any point; the settings hold for this run all the same.
 bool writeSettings();

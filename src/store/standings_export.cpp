@@ -1,10 +1,10 @@
 #include "store/standings_export.h"
 
+#include "app/files.h"
 #include "app/game_state.h"
 #include "app/host.h"
 #include "app/view.h"
 #include "race/scoring.h"
-#include "store/bytes.h"
 #include "store/race_file.h"
 
 #include <string>
@@ -91,15 +91,15 @@ static std::string teamNameColumns()
 
 static std::string riderColumns(const StageBlock& stage, int place)
 {
-    std::string text;
+    std::string text = ";";
     for (int team = 0; team < TEAM_COUNT; ++team) {
         const int rider = team * RIDERS_PER_TEAM + place;
-        text += ';';
         text += numberOf(rider) + ";";
         if (stage.points.total[rider] != -1)
             text += std::to_string(stage.points.total[rider]);
         else if (!stage.running)
             text += "0";
+        text += ';';
     }
     return text;
 }

@@ -6,7 +6,6 @@
 #include <cmath>
 
 Layout layout;
-bool ratioChosenByProgram = false;
 
 constexpr float LIST_COLUMNS = static_cast<float>(raceListCols);
 constexpr float LIST_LINES =

@@ -265,10 +265,6 @@ struct Layout {
 
 extern Layout layout;
 
-// The ratio in the settings is the program's own guess from the window's size, neither stored nor
-// picked by a person. Such a guess is made again at the next size.
-extern bool ratioChosenByProgram;
-
 // How much wider than high a shape must be in pixels to look round: 1 where the ratio is the
 // monitor's own. 1 as well while there is no drawing area.
 float aspectFix();

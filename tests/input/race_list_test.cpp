@@ -37,7 +37,8 @@ protected:
     {
         writeRace("R0.race");
         for (int i = 1; i < count; ++i)
-            std::filesystem::copy_file("R0.race", "R" + std::to_string(i) + ".race");
+            std::filesystem::copy_file("R0.race",
+                                       std::string("R").append(std::to_string(i)).append(".race"));
     }
 
     // A race of so many stages, each won by the team's first rider.
@@ -182,6 +183,22 @@ TEST_F(RaceListTest, AnyFileIsListedAndMayBeChosen)
     EXPECT_EQ(shownFileName("\xE2\x82\xAC \xED"), "\xE2?\xAC \xED");
 }
 
+// To go on without its stages would overwrite them.
+TEST_F(RaceListTest, ARaceThatCantBeReadStaysOnTheList)
+{
+    writeRaceOf("Tour.race", 0, 2);
+    player.click("Continue");
+    choose("Tour.race");
+    std::filesystem::rename("Tour.race", "away");
+    player.click("OK");
+    EXPECT_EQ(gameState, STATE_RACE_FILES);
+    EXPECT_EQ(raceList.raceFileList.size(), 0u);
+    std::filesystem::rename("away", "Tour.race");
+    player.click("OK");
+    EXPECT_EQ(gameState, STATE_COURSE_SELECT);
+    EXPECT_EQ(raceSetup.raceStages.size(), 2u);
+}
+
 TEST_F(RaceListTest, ANewRaceNeedsANameThatIsNotTaken)
 {
     writeRaceOf("Tour 1.race", 0, 1);
@@ -199,6 +216,12 @@ TEST_F(RaceListTest, ANewRaceNeedsANameThatIsNotTaken)
               std::vector<std::string>{"Race name \"Tour 1\" already exists"});
     player.key('o');
     type("\xFC");
+    std::filesystem::create_symlink("nowhere", "Tour 1\xC3\xBC.race");
+    player.click("OK");
+    EXPECT_EQ(gameState, STATE_SETUP_MESSAGE)
+        << "a link or a folder of that name is in the way, too";
+    std::filesystem::remove("Tour 1\xC3\xBC.race");
+    player.key('o');
     player.click(eventCardsBox());
     EXPECT_FALSE(raceSetup.eventCardsOn);
     player.click("OK");

@@ -16,6 +16,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
+#include <utility>
 
 namespace
 {
@@ -46,6 +47,16 @@ protected:
     {
         for (; *keys; ++keys)
             player.key(*keys);
+    }
+
+    // As the next run will find it.
+    static double storedRatio()
+    {
+        const Settings present = settings;
+        const bool chosen = ratioChosenByProgram;
+        readSettings();
+        ratioChosenByProgram = chosen;
+        return std::exchange(settings, present).ratioW;
     }
 
     const Fields& fields() const { return settingsScreen.settingsFieldText; }
@@ -151,10 +162,14 @@ TEST_F(SettingsScreenTest, CancelBringsBackTheGuess)
     EXPECT_EQ(settings.ratioW, 16.0);
 
     player.click(menuSettingsButton());
+    player.click(settingsOkButton());
+    EXPECT_EQ(storedRatio(), -1.0) << "not chosen by anybody";
+    player.click(menuSettingsButton());
     player.click(ratioRadio(2));
     player.click(settingsOkButton());
+    EXPECT_EQ(storedRatio(), 16.0) << "chosen, though it is what had been guessed";
     resizeScreen(1280, 1024);
-    EXPECT_EQ(settings.ratioW, 16.0) << "chosen";
+    EXPECT_EQ(settings.ratioW, 16.0);
 }
 
 TEST_F(SettingsScreenTest, DefaultsCountWithOkOnly)

@@ -1,7 +1,7 @@
 #include "store/race_file.h"
 
+#include "app/bytes.h"
 #include "board/course.h"
-#include "store/bytes.h"
 #include "store/golden_files.h"
 #include "support/own_folder.h"
 
@@ -119,7 +119,8 @@ TEST_F(RaceFile, OddBytesAreMendedAsTheyAreRead)
     bytes[14] = 'x';
     EXPECT_EQ(slotsRead(bytes, FINISH_SLOT, {3, 16, -2, 3, 0x7FFFFFFF, 256, 0, 15, 0}),
               (std::vector{3, -1, -1, -1, -1, -1, 0, 15, -1}));
-    EXPECT_EQ(slotsRead(bytes, 0, {7, 7, 2, 7, 2, 7}), (std::vector{7, -1, 2, 7, 2, -1}));
+    EXPECT_EQ(slotsRead(bytes, 0, {7, 7, 2, 7, 2, 7}), (std::vector{7, 7, 2, 7, 2, 7}))
+        << "set back behind a sprint a rider may cross it again";
     EXPECT_EQ(raceSetup.teamName[0], "endlessname");
     ASSERT_TRUE(writeRace("r.race"));
     EXPECT_EQ(bytesOfFile("r.race")[0], 1);
@@ -154,11 +155,32 @@ TEST_F(RaceFile, WhatIsNoFileIsNoRace)
     for (const char* name :
          {"folder.race", "pipe.race", "self.race", "device.race", "none.race", ""}) {
         raceSetup.raceStages.resize(1);
-        readRace(name);
+        EXPECT_FALSE(readRace(name)) << name;
         EXPECT_EQ(raceSetup.teamName[0], "Mine") << name;
         EXPECT_TRUE(raceSetup.raceStages.empty()) << name;
     }
     EXPECT_TRUE(listRaceFiles().empty());
+}
+
+// Two games may go on with the same race: who comes second is told, and overwrites nothing.
+TEST_F(RaceFile, AStageThatSomebodyElseAddedIsNotOverwritten)
+{
+    putBytes("r.race", golden.substr(0, HEAD_SIZE + STAGE_SIZE));
+    ASSERT_TRUE(readRace("r.race"));
+    putBytes("r.race", golden); // by the other game
+    raceSetup.raceStages.resize(2);
+    EXPECT_FALSE(writeRace("r.race"));
+    EXPECT_EQ(bytesOfFile("r.race"), golden);
+
+    putBytes("r.race", golden.substr(0, HEAD_SIZE + STAGE_SIZE));
+    EXPECT_TRUE(writeRace("r.race"));
+    raceSetup.raceStages.resize(3);
+    EXPECT_TRUE(writeRace("r.race"));
+    fs::remove("r.race");
+    EXPECT_TRUE(writeRace("r.race")) << "a file that is gone was taken away on purpose";
+
+    putBytes("new.race", golden);
+    EXPECT_FALSE(writeRace("new.race")) << "a race of this name has begun elsewhere";
 }
 
 TEST_F(RaceFile, TheListHoldsFilesWithTheExtension)

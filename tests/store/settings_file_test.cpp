@@ -1,8 +1,8 @@
 #include "store/settings_file.h"
 
+#include "app/bytes.h"
 #include "app/settings.h"
 #include "race/race_state.h"
-#include "store/bytes.h"
 #include "store/golden_files.h"
 #include "support/own_folder.h"
 

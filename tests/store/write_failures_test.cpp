@@ -11,6 +11,7 @@
 #include <gtest/gtest.h>
 
 #include <cerrno>
+#include <chrono>
 #include <cstdarg>
 #include <fcntl.h>
 #include <functional>
@@ -119,6 +120,13 @@ int __wrap_fsync(int file)
     return 0;
 }
 
+int __real_mkostemps(char* name, int suffix, int flags);
+int __wrap_mkostemps(char* name, int suffix, int flags)
+{
+    nameAtRisk = true;
+    return fails() ? -1 : __real_mkostemps(name, suffix, flags);
+}
+
 int __real_close(int file);
 int __wrap_close(int file)
 {
@@ -196,10 +204,20 @@ protected:
         EXPECT_TRUE(bytes == oldBytes || bytes == newBytes);
     }
 
+    // What a game that was killed leaves behind goes an hour later, and no sooner.
+    static void letAnHourPass()
+    {
+        for (const auto& entry : fs::directory_iterator("."))
+            if (entry.path().filename().string().starts_with(".gravelon-"))
+                fs::last_write_time(entry,
+                                    fs::file_time_type::clock::now() - std::chrono::hours(1));
+    }
+
     void expectNothingElseInFolder() const
     {
         for (const auto& entry : fs::directory_iterator("."))
-            EXPECT_EQ(entry.path().filename(), file);
+            EXPECT_TRUE(entry.path().filename() == file || entry.is_directory() || entry.is_fifo())
+                << entry.path();
     }
 
     // Strikes at one call after the other until one lies behind the last.
@@ -267,6 +285,10 @@ TEST_P(WriteFailures, APowerCutAtAnyCallIsMendedByTheNextWrite)
         }
         EXPECT_TRUE(write());
         EXPECT_EQ(bytesOfFile(file), newBytes);
+        letAnHourPass();
+        if (!appends) {
+            EXPECT_TRUE(write());
+        }
         expectNothingElseInFolder();
     }
 }
@@ -291,29 +313,58 @@ TEST_P(WriteFailures, WhatIsNoFileOrIsProtectedIsLeftAlone)
     fs::remove(file);
     ASSERT_EQ(mkfifo(file.c_str(), 0600), 0);
     EXPECT_FALSE(write());
-    fs::remove(file);
-    fs::create_symlink(file, file);
-    EXPECT_FALSE(write());
+    ASSERT_EQ(mkfifo("pipe", 0600), 0);
+    for (const char* target : {"nowhere", file.c_str(), "pipe"}) {
+        fs::remove(file);
+        fs::create_symlink(target, file);
+        EXPECT_FALSE(write()) << target;
+        EXPECT_TRUE(fs::is_symlink(file)) << target;
+        expectNothingElseInFolder();
+    }
+}
+
+// What it leads to is replaced where it lies, and keeps its permissions as any file does. The
+// temporary file of another game that writes at this moment stays.
+TEST_P(WriteFailures, ALinkIsFollowedAndStaysOne)
+{
+    prepare(true);
+    fs::create_directories("far/away");
+    fs::rename(file, "far/away/kept");
+    fs::permissions("far/away/kept", fs::perms(0640));
+    fs::create_symlink("away/kept", "far/second");
+    fs::create_symlink("far/second", file);
+    putBytes("far/away/.gravelon-others.new", "half");
+    EXPECT_TRUE(write());
+    EXPECT_EQ(bytesOfFile("far/away/kept"), newBytes);
+    EXPECT_EQ(fs::status("far/away/kept").permissions(), fs::perms(0640));
+    EXPECT_TRUE(fs::is_symlink(file) && fs::is_symlink("far/second"));
+    EXPECT_EQ(bytesOfFile("far/away/.gravelon-others.new"), "half");
     expectNothingElseInFolder();
 }
 
-// But a record is appended to what the link leads to. The temporary file of another game that runs
-// in the folder stays.
-TEST_P(WriteFailures, ALinkIsReplacedAndNotFollowed)
+// Both halves are there, none within the other, though each game cuts what the other was killed at.
+TEST(TwoGames, LoseNoneOfTheCoursesThatTheySave)
 {
-    prepare(true);
-    const auto temporary = [](pid_t process) {
-        return ".gravelon-" + std::to_string(process) + ".new";
+    const OwnFolder folder;
+    constexpr int each = 300;
+    courseText = "64S5F";
+    const auto saveAll = [] {
+        bool saved = true;
+        for (int i = 0; i < each; ++i)
+            saved &= saveDesign();
+        return saved;
     };
-    fs::rename(file, "elsewhere");
-    fs::create_symlink("elsewhere", file);
-    fs::create_symlink("elsewhere", temporary(getpid()));
-    putBytes(temporary(getppid()), "half");
-    EXPECT_TRUE(write());
-    EXPECT_EQ(bytesOfFile(file), newBytes);
-    EXPECT_EQ(fs::is_symlink(file), appends);
-    EXPECT_EQ(bytesOfFile("elsewhere"), appends ? newBytes : oldBytes);
-    EXPECT_EQ(bytesOfFile(temporary(getppid())), "half");
+    const pid_t child = fork();
+    if (child == 0)
+        _exit(saveAll() ? 1 : 0);
+    EXPECT_TRUE(saveAll());
+    int status = 0;
+    waitpid(child, &status, 0);
+    EXPECT_EQ(WEXITSTATUS(status), 1);
+    EXPECT_EQ(countSavedCourses(), 2 * each);
+    for (int i = 0; i < 2 * each; ++i)
+        ASSERT_EQ(readSavedCourse(i), "64S5F") << i;
+    courseText.clear();
 }
 
 INSTANTIATE_TEST_SUITE_P(Files, WriteFailures, testing::ValuesIn(WRITERS));
