@@ -2,6 +2,7 @@
 
 #include "app/host.h"
 #include "app/overlays.h"
+#include "app/view.h"
 #include "board/course.h"
 #include "board/designer.h"
 #include "input/actions.h"
@@ -14,6 +15,7 @@
 void openCourseDesigner()
 {
     startDesign();
+    lookFromAbove();
     enter(STATE_COURSE_DESIGN);
 }
 

@@ -28,6 +28,7 @@
 #include <GL/freeglut.h>
 
 #include <cstdlib>
+#include <utility>
 
 // A place in the drawing area.
 struct Point {
@@ -290,23 +291,26 @@ static int millisecondsOfGlut()
 int (*mouseClock)() = millisecondsOfGlut;
 
 // The second half of a double click often meets another control, which stands where the first half
-// was: "Exit" where "Back" had been, or the next question where the answer to the last was. So it
-// is dropped when the first half led to another state, or to one like it.
+// was: "Exit" where "Back" had been, "Start" where the last section was added, or the next question
+// where the answer to the last was. So it is dropped when the first half led to another state, or
+// to one like it. Presses are compared with presses, since how long a click is held and how long
+// its work takes says nothing about the hand.
 struct DoubleClickGuard {
     bool pressed = false; // the button is down
     GameState pressedIn = STATE_LOADING;
-    Point changedAt = {-1, -1}; // where and when a click led to another state
+    int pressedTime = 0;
+    Point changedAt = {-1, -1}; // where a click led to another state, and when it was pressed
     int changedTime = 0;
     bool dropped = false; // the click in hand does nothing
 };
 
 static DoubleClickGuard guard;
 
-static bool isSecondHalf(Point at)
+static bool isSecondHalf(Point at, int time)
 {
     constexpr int intervalMs = 200;
     constexpr int reach = 5; // pixels
-    return guard.changedAt.x != -1 && mouseClock() - guard.changedTime < intervalMs &&
+    return guard.changedAt.x != -1 && time - guard.changedTime < intervalMs &&
            std::abs(at.x - guard.changedAt.x) <= reach &&
            std::abs(at.y - guard.changedAt.y) <= reach;
 }
@@ -317,35 +321,46 @@ static bool mayAskAgain(Point at)
     if (dialogShown())
         return at.in(dialogOkButton()) || at.in(dialogLeftButton()) || at.in(dialogRightButton());
     switch (gameState) {
-    case STATE_ORDER_RESULT:
-        return at.in(throwButton());
     case STATE_SKIP_HANDIN:
         return at.in(handInOkButton());
     case STATE_COURSE_DESIGN:
-        return at.in(saveCourseButton());
+        return at.in(saveCourseButton()) || (at.in(addSectionButton()) && designFinished());
     default:
         return false;
     }
 }
 
-static void clickLeft(bool pressed, Point at)
+// "Throw" and "Next" stand in one place and are pressed in turn, as quickly as one likes.
+static bool throwsForOrder(GameState state)
 {
-    if (pressed || !guard.pressed)
+    return state == STATE_ORDER_THROW || state == STATE_ORDER_RESULT;
+}
+
+static void press(Point at)
+{
+    const int time = mouseClock();
+    guard.pressed = true;
+    guard.pressedIn = gameState;
+    guard.pressedTime = time;
+    guard.dropped = isSecondHalf(at, time);
+    if (guard.dropped)
+        return;
+    guard.changedAt = {-1, -1};
+    pressLeft(at);
+}
+
+static void release(Point at)
+{
+    if (!std::exchange(guard.pressed, false)) {
         guard.pressedIn = gameState;
-    guard.pressed = pressed;
-    if (pressed) {
-        guard.dropped = isSecondHalf(at);
-        if (!guard.dropped)
-            guard.changedAt = {-1, -1};
+        guard.pressedTime = mouseClock();
     }
     if (guard.dropped)
         return;
-    if (pressed)
-        return pressLeft(at);
     releaseLeft(at, guard.pressedIn);
-    if (gameState != guard.pressedIn || mayAskAgain(at)) {
+    if ((gameState != guard.pressedIn || mayAskAgain(at)) && !throwsForOrder(guard.pressedIn)) {
         guard.changedAt = at;
-        guard.changedTime = mouseClock();
+        guard.changedTime = guard.pressedTime;
     }
 }
 
@@ -354,7 +369,7 @@ void onMouse(int button, int buttonState, int x, int y)
     const Point at = inDrawingArea(x, y);
     const bool pressed = buttonState == GLUT_DOWN;
     if (button == GLUT_LEFT_BUTTON)
-        clickLeft(pressed, at);
+        pressed ? press(at) : release(at);
     else if (button == GLUT_RIGHT_BUTTON && pressed)
         pressCamera(GLUT_RIGHT_BUTTON, at);
 }

@@ -3,6 +3,7 @@
 #include "app/game_state.h"
 #include "app/view.h"
 #include "board/course.h"
+#include "race/card_rules.h"
 #include "race/race_state.h"
 #include "ui/controls.h"
 #include "ui/layout.h"
@@ -20,18 +21,14 @@ static int cardsIn(const Table<int, 2>& places)
     return (places[0] != -1 ? 1 : 0) + (places[1] != -1 ? 1 : 0);
 }
 
-// Whether one more card may be laid in the present state; outside the two states in which cards are
+// Whether one more card may be laid in the present state; outside the states in which cards are
 // laid the question doesn't arise.
 static bool placeFree()
 {
-    const bool oneAtMost = terrainOf(race.currentRider) == TERRAIN_COBBLES;
     if (gameState == STATE_TURN)
-        return cardsIn(race.playedCards) < (oneAtMost ? 1 : 2);
-    if (gameState == STATE_SKIP_HANDIN) {
-        const bool two = race.riders[race.currentRider].skipTurns >= 2 && !oneAtMost;
-        return cardsIn(race.handInCards) < (two ? 2 : 1);
-    }
-    return true;
+        return cardsIn(race.playedCards) <
+               (terrainOf(race.currentRider) == TERRAIN_COBBLES ? 1 : 2);
+    return !cardsActive() || cardsIn(race.handInCards) < handInSlotCount();
 }
 
 static bool shownRiderMayUse(int value)
@@ -47,9 +44,7 @@ static bool shownRiderMayUse(int value)
 
 static bool setCardUsable(int slot)
 {
-    if (gameState != STATE_TURN && gameState != STATE_SKIP_HANDIN)
-        return false;
-    return shownRiderMayUse(cardValue[slot]) &&
+    return cardsActive() && shownRiderMayUse(cardValue[slot]) &&
            (cardOwner[slot] == -1 || cardOwner[slot] == riderPlace(race.currentRider));
 }
 

@@ -24,9 +24,11 @@ namespace
 constexpr char TAB = 9;
 constexpr char ENTER = 13;
 
-void startRaceOn(const char* text)
+void startRaceOn(const char* text, bool ofPersons = false)
 {
     startProgram(640, 512);
+    for (Rider& rider : race.riders)
+        rider.isHuman = ofPersons;
     std::srand(11);
     courseText = text;
     startRace();
@@ -113,6 +115,52 @@ TEST(Mouse, ADoubleClickDoesNothingTwice)
     EXPECT_EQ(fakeHost.quits, 0);
     player.click("Exit");
     EXPECT_EQ(fakeHost.quits, 1);
+}
+
+// One who holds the button long clicks no more slowly: it is the presses that are compared.
+TEST(Mouse, ASecondPressWithinTheTimeOfADoubleClickIsDroppedHoweverLongTheFirstIsHeld)
+{
+    startProgram(640, 512);
+    Player player;
+    for (const int pace : {120, 190, 210}) {
+        player.pace = 1000;
+        player.click("Start");
+        player.pace = pace;
+        player.click(cornerButton());
+        player.click(cornerButton());
+        EXPECT_EQ(fakeHost.quits, pace > 200) << pace;
+    }
+}
+
+TEST(Mouse, ThrowsForTheOrderAreAsQuickAsTheHand)
+{
+    startRaceOn("64S5F12", true);
+    Player player;
+    player.pace = 150;
+    const Rect button = throwButton();
+    for (int clicks = 1; clicks <= 7; ++clicks) {
+        player.click(button);
+        EXPECT_EQ(gameState, clicks % 2 ? STATE_ORDER_RESULT : STATE_ORDER_THROW) << clicks;
+    }
+}
+
+TEST(Mouse, ADoubleClickThatFinishesADesignStartsNoRace)
+{
+    startProgram(640, 512);
+    Player player;
+    for (const char* label : {"Start", "Single stage", "OK"})
+        player.click(label);
+    view.viewMode = VIEW_PERSPECTIVE;
+    player.click(newCourseButton());
+    EXPECT_EQ(view.viewMode, VIEW_FLAT);
+    player.doubleClick(addSectionButton());
+    EXPECT_EQ(courseText, "01") << "in the middle of a design both count";
+    toggleFinish();
+    player.doubleClick(addSectionButton());
+    EXPECT_EQ(courseText, "012F");
+    EXPECT_EQ(gameState, STATE_COURSE_DESIGN);
+    player.click(addSectionButton());
+    EXPECT_EQ(gameState, STATE_ORDER_RESULT);
 }
 
 // Before the race throws act on the release, in it on the press.

@@ -67,12 +67,11 @@ static int windowY(float y)
     return layout.viewY + static_cast<int>(y);
 }
 
-// Somebody who takes his time between two clicks, but for those of a double click.
-static int now = 0;
+static int now = 0; // ms
 
 void Player::press(float x, float y)
 {
-    now += 1000;
+    now += pace;
     mouseClock = [] { return now; };
     onMouse(GLUT_LEFT_BUTTON, GLUT_DOWN, windowX(x), windowY(y));
 }
@@ -98,7 +97,7 @@ void Player::click(const Rect& at)
 void Player::doubleClick(const Rect& at)
 {
     click(at);
-    now -= 1000 - 100;
+    now -= pace - 90;
     click(at);
 }
 
