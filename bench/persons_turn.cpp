@@ -5,9 +5,9 @@
 #include "app/game_state.h"
 #include "board/course.h"
 #include "board/designer.h"
-#include "race/placing.h"
+#include "play/placing.h"
+#include "play/start.h"
 #include "race/race_state.h"
-#include "race/start.h"
 
 #include <GL/freeglut.h>
 

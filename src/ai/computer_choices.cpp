@@ -3,6 +3,7 @@
 #include "ai/route_search.h"
 #include "board/course.h"
 #include "race/card_rules.h"
+#include "race/rider_place.h"
 #include "race/start_grid.h"
 
 static constexpr int AVERAGE_THROW = 7;

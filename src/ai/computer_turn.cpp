@@ -3,12 +3,12 @@
 #include "ai/route_search.h"
 #include "app/game_state.h"
 #include "app/host.h"
-#include "app/overlays.h"
 #include "board/course.h"
 #include "board/rider_motion.h"
 #include "race/card_rules.h"
-#include "race/cards.h"
+#include "race/dice.h"
 #include "race/event_deck.h"
+#include "race/rider_place.h"
 #include "race/step_rule.h"
 
 namespace

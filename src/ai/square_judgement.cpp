@@ -1,6 +1,7 @@
 #include "ai/square_judgement.h"
 
 #include "board/course.h"
+#include "race/race_state.h"
 
 #include <algorithm>
 

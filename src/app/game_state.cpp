@@ -1,7 +1,15 @@
 #include "app/game_state.h"
 
+#include "app/host.h"
+
 GameState gameState = STATE_LOADING;
 GameState returnState = STATE_TRANSIT;
+
+void enter(GameState state)
+{
+    gameState = state;
+    redrawNow();
+}
 
 bool boardVisible()
 {

@@ -57,6 +57,9 @@ extern GameState gameState;
 // each other.
 extern GameState returnState;
 
+// Goes over to a state and paints it.
+void enter(GameState state);
+
 // Whether the present state shows the race screen: the board and the panel at its foot.
 bool boardVisible();
 

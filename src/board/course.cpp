@@ -162,26 +162,6 @@ int endStartLane()
     return opensWith(courseText, '6') ? 8 : 5;
 }
 
-void leaveSquare(int rider)
-{
-    int& occupant = course.courseOccupant[race.riders[rider].row][race.riders[rider].lane];
-    if (occupant == rider)
-        occupant = -1;
-}
-
-int terrainOf(int rider)
-{
-    return terrainAt(race.riders[rider].row, race.riders[rider].lane);
-}
-
-void updateRiderLap(int rider)
-{
-    int laps = 0;
-    for (int i = 0; i < course.lapEndCount; ++i)
-        laps += course.lapEndRows[i] < race.riders[rider].row;
-    course.riderLapCount[rider] = laps;
-}
-
 int countCourseLaps(std::string_view text, LapCountMode mode)
 {
     if (mode == LAPS_DRIVEN)

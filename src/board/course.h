@@ -3,7 +3,6 @@
 #include "app/table.h"
 #include "board/section_shapes.h"
 #include "board/sections.h"
-#include "race/race_state.h"
 
 #include <string>
 #include <string_view>
@@ -17,7 +16,14 @@ constexpr int COURSE_LANES = 23;
 constexpr int LANES_PER_LAP = 3; // each lap stands so many lanes further out
 constexpr int LAP_END_MAX = 5;
 constexpr int LAPS_LOOKED_THROUGH = 6;
+constexpr int SPRINT_COUNT = 3;
 constexpr int LINE_COUNT = SPRINT_COUNT + 1; // the sprints, then the finish
+
+struct Square {
+    int row = -1;
+    int lane = -1;
+    friend bool operator==(const Square&, const Square&) = default;
+};
 
 using Grid = Table2<int, COURSE_MAX_ROWS, COURSE_LANES>;
 
@@ -43,7 +49,6 @@ struct CourseGrid {
     Table<int, LAP_END_MAX> lapEndRows = filled<int, LAP_END_MAX>(-1);
     int lapEndCount = 0;
     int lastClimbRow = 0; // outlives the course: assembly doesn't reset it
-    Table<int, RIDER_COUNT> riderLapCount{};
     std::vector<StraightPiece> courseStraights;
     std::vector<CurvePiece> courseCurves;
     Table<PieceRange, COURSE_MAX_ROWS> straightsOfRow{}; // for rows r up to, but not, r + 1
@@ -120,16 +125,6 @@ inline int lineRow(int line)
 {
     return line < SPRINT_COUNT ? course.sprintRows[line] : course.finishRow;
 }
-
-// Takes a rider off the grid. Who was lifted off the board is not on it: his square may be
-// another's.
-void leaveSquare(int rider);
-
-// Terrain under a rider.
-int terrainOf(int rider);
-
-// Sets riderLapCount to the laps that lie behind the rider's row.
-void updateRiderLap(int rider);
 
 // Laps of a course, from 1. LAPS_DRIVEN counts the digits that end a lap, which limits a design;
 // LAPS_TITLED counts those that open one in front of the finish, which is what titles are shown

@@ -189,11 +189,11 @@ std::optional<Placement> placeBetweenSquares(float row, float lane)
         .heading = headingFromTo(from->at, to->at)};
 }
 
-BoardPoint settle(const std::optional<Placement>& place, int rider)
+BoardPoint settle(const std::optional<Placement>& place, double& heading)
 {
     if (!place)
         return {};
-    race.riders[rider].heading = place->heading;
+    heading = place->heading;
     return place->at;
 }
 
@@ -220,15 +220,15 @@ float pathRowOfSquare(int row, int lane)
     return curve ? curveRowOfSquare(*curve, row, lane) : static_cast<float>(row);
 }
 
-BoardPoint boardPointOfSquare(int row, int lane, int rider)
+BoardPoint boardPointOfSquare(int row, int lane, double& heading)
 {
-    return settle(placeOfSquare(row, lane), rider);
+    return settle(placeOfSquare(row, lane), heading);
 }
 
-BoardPoint boardPointOnPath(float row, float lane, int rider)
+BoardPoint boardPointOnPath(float row, float lane, double& heading)
 {
     const auto place = placeOnPiece(row, lane);
-    return settle(place ? place : placeBetweenSquares(row, lane), rider);
+    return settle(place ? place : placeBetweenSquares(row, lane), heading);
 }
 
 namespace

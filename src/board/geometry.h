@@ -7,14 +7,14 @@
 
 // Where a square, or a point between squares, lies on the picture of the board. Rules never ask.
 
-// Where a rider on this square stands. Sets the heading of `rider`. For a place that no piece of
-// the course holds: the origin, and the heading stays.
-BoardPoint boardPointOfSquare(int row, int lane, int rider);
+// Where a rider on this square stands. Sets the heading in which he rides there, in radians. For a
+// place that no piece of the course holds: the origin, and the heading stays.
+BoardPoint boardPointOfSquare(int row, int lane, double& heading);
 
 // Where a point between squares lies; on a curve the row is a real position on the arc. Sets the
-// heading of `rider`. Where no piece of this lap holds the point it lies straight between the
+// heading likewise. Where no piece of this lap holds the point it lies straight between the
 // squares of the lane around it.
-BoardPoint boardPointOnPath(float row, float lane, int rider);
+BoardPoint boardPointOnPath(float row, float lane, double& heading);
 
 // The real row at which a square of a curve piece lies: the real squares of a lane are spread
 // evenly along its arc, whatever rows they have.

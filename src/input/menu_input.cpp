@@ -1,10 +1,11 @@
 #include "input/menu_input.h"
 
+#include "app/game_state.h"
 #include "app/host.h"
-#include "app/overlays.h"
 #include "app/settings.h"
 #include "input/actions.h"
 #include "input/keys.h"
+#include "play/overlays.h"
 #include "store/settings_file.h"
 #include "ui/controls.h"
 #include "ui/manual_pages.h"

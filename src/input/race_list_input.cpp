@@ -2,9 +2,9 @@
 
 #include "app/game_state.h"
 #include "app/host.h"
-#include "app/overlays.h"
 #include "app/view.h"
 #include "input/actions.h"
+#include "play/overlays.h"
 #include "race/race_state.h"
 #include "store/race_file.h"
 #include "ui/access_keys.h"

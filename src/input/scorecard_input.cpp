@@ -2,10 +2,10 @@
 
 #include "app/game_state.h"
 #include "app/host.h"
-#include "app/overlays.h"
 #include "app/settings.h"
 #include "app/view.h"
 #include "input/keys.h"
+#include "play/overlays.h"
 #include "store/standings_export.h"
 #include "ui/access_keys.h"
 #include "ui/controls.h"

@@ -1,10 +1,10 @@
 #include "input/settings_input.h"
 
 #include "app/host.h"
-#include "app/overlays.h"
 #include "app/settings.h"
 #include "input/keys.h"
 #include "input/text_field.h"
+#include "play/overlays.h"
 #include "store/settings_file.h"
 #include "ui/controls.h"
 #include "ui/layout.h"

@@ -1,10 +1,10 @@
 #include "input/setup_input.h"
 
 #include "app/host.h"
-#include "app/overlays.h"
 #include "input/actions.h"
 #include "input/keys.h"
 #include "input/text_field.h"
+#include "play/overlays.h"
 #include "race/race_state.h"
 #include "ui/controls.h"
 #include "ui/team_setup.h"

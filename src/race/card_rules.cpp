@@ -1,10 +1,8 @@
 #include "race/card_rules.h"
 
-#include "app/game_state.h"
 #include "board/course.h"
 #include "race/race_state.h"
-
-#include <algorithm>
+#include "race/rider_place.h"
 
 int cardValueOf(int team, int slot)
 {
@@ -40,11 +38,4 @@ bool cardPlayable(int slot)
         return false;
     return race.cardUsed[riderTeam(race.currentRider)][slot] == CARD_AVAILABLE &&
            ownsCard(race.currentRider, slot);
-}
-
-int handInSlotCount()
-{
-    if (gameState == STATE_EVENT_HANDIN || terrainOf(race.currentRider) == TERRAIN_COBBLES)
-        return 1;
-    return std::clamp(race.riders[race.currentRider].skipTurns, 1, 2);
 }

@@ -19,7 +19,3 @@ bool hasCardToHandIn(int rider);
 
 // Whether currentRider may use the card at all. Strength cards don't exist in round 1.
 bool cardPlayable(int slot);
-
-// How many cards a person may put up in STATE_SKIP_HANDIN or STATE_EVENT_HANDIN: one for an event
-// card that wants one and on cobbles, else one for each turn to miss, at most two.
-int handInSlotCount();

@@ -1,6 +1,7 @@
 #include "race/crashes.h"
 
 #include "board/course.h"
+#include "race/race_state.h"
 
 #include <algorithm>
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/table.h"
+#include "board/course.h"
 
 #include <cstdint>
 #include <string>
@@ -21,7 +22,6 @@ constexpr int BLUE_CARD = 6;
 constexpr int WHITE_CARD = 5;
 constexpr int PATH_SQUARES_MAX = 50;
 constexpr int RESULT_SLOT_COUNT = 25;
-constexpr int SPRINT_COUNT = 3;
 constexpr int SPRINT_PLACES = 3;
 constexpr int FINISH_SLOT = SPRINT_COUNT * SPRINT_PLACES; // slot of the finish's first place
 constexpr int NAME_LENGTH_MAX = 12;
@@ -30,12 +30,6 @@ constexpr int PACKED_COURSE_SIZE = 14; // bytes for the 28 characters of a cours
 constexpr int CARD_AVAILABLE = 0;
 constexpr int CARD_SPENT = 1;
 constexpr int CARD_NONE = -1; // a slot for won cards that has never held one
-
-struct Square {
-    int row = -1;
-    int lane = -1;
-    friend bool operator==(const Square&, const Square&) = default;
-};
 
 struct Rider {
     int row = -1; // on the course; -1 until placed; kept while off the board
@@ -98,6 +92,7 @@ struct RaceState {
     Table<int, RIDER_COUNT> dopingNumber{};
     Table<int, RESULT_SLOT_COUNT> resultSlots{}; // a rider or -1, see scoring
     int sprintWinner = -1;
+    Table<int, RIDER_COUNT> riderLapCount{};
 
     // The doping control at the end of the stage.
     Table<int, 2> dopingDraw{}; // the numbers drawn, 1 to 6; 0 before

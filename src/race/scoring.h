@@ -40,10 +40,3 @@ GeneralPoints generalPoints();
 
 // The teams by their sums, highest first; on equal sums the lower index stands higher.
 Table<int, TEAM_COUNT> teamOrder(const Table<int, TEAM_COUNT>& sums);
-
-// The end of a stage: the final scorecard; a race of several stages is added to and written.
-void closeStage();
-
-// "Retry" and "Abort" in STATE_SAVE_FAILED.
-void retrySave();
-void abortSave();

@@ -1,6 +1,7 @@
 #include "race/soundness.h"
 
 #include "board/course.h"
+#include "race/race_state.h"
 
 static std::string about(int rider, const char* fault)
 {

@@ -1,6 +1,7 @@
 #include "race/start_grid.h"
 
 #include "board/course.h"
+#include "race/race_state.h"
 
 bool mayPlaceOn(int row, int lane, int rider)
 {

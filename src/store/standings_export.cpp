@@ -4,6 +4,7 @@
 #include "app/game_state.h"
 #include "app/host.h"
 #include "app/view.h"
+#include "race/race_state.h"
 #include "race/scoring.h"
 #include "store/race_file.h"
 

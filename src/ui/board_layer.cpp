@@ -3,9 +3,9 @@
 #include "app/game_state.h"
 #include "app/view.h"
 #include "board/course.h"
-#include "board/geometry.h"
 #include "board/rider_motion.h"
 #include "race/race_state.h"
+#include "race/rider_place.h"
 #include "race/start_grid.h"
 #include "ui/matrices.h"
 #include "ui/models.h"
@@ -50,13 +50,10 @@ static void drawPlacingCursor()
 static void placeRiders()
 {
     for (int i = 0; i < RIDER_COUNT; ++i) {
-        Rider& rider = race.riders[i];
+        const Rider& rider = race.riders[i];
         const bool carried = i == race.currentRider && !motion.way.empty();
-        if (rider.finished || rider.row == -1 || carried)
-            continue;
-        const BoardPoint at = boardPointOfSquare(rider.row, rider.lane, i);
-        rider.x = at.x;
-        rider.y = at.y;
+        if (!rider.finished && rider.row != -1 && !carried)
+            placeOnBoard(i);
     }
 }
 

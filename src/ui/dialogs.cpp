@@ -1,7 +1,7 @@
 #include "ui/dialogs.h"
 
 #include "app/game_state.h"
-#include "race/doping.h"
+#include "play/doping.h"
 #include "race/event_deck.h"
 #include "race/race_state.h"
 #include "ui/access_keys.h"

@@ -123,7 +123,7 @@ static void drawPawn(int rider)
     const Spot at = pawnSpot(rider);
     drawPawnAt(rider, at.x, at.y);
     setColour(WHITE);
-    drawBeside(at, place.lap, texts.lapShort + std::to_string(course.riderLapCount[rider]));
+    drawBeside(at, place.lap, texts.lapShort + std::to_string(race.riderLapCount[rider]));
     if (race.dopingNumber[rider] != -1)
         drawBeside(at, place.doping, "D:" + std::to_string(race.dopingNumber[rider]));
 }

@@ -4,8 +4,9 @@
 #include "app/view.h"
 #include "board/course.h"
 #include "board/trig_tables.h"
+#include "play/cards.h"
+#include "play/doping.h"
 #include "race/card_rules.h"
-#include "race/doping.h"
 #include "race/race_state.h"
 #include "ui/access_keys.h"
 #include "ui/card_panel.h"
@@ -159,7 +160,7 @@ static void drawRoundAndLap()
     drawValue(layout.roundBoxX, layout.movesLeftBoxY + layout.roundBoxH * 0.5f, layout.roundBoxW,
               texts.round, race.roundNumber, running);
     drawValue(layout.lapBoxX, layout.lapBoxY + layout.lapBoxH * 0.5f, layout.lapBoxW, texts.lap,
-              onTurn ? course.riderLapCount[race.currentRider] : 0, running && onTurn);
+              onTurn ? race.riderLapCount[race.currentRider] : 0, running && onTurn);
 }
 
 static void drawHandInSlots()

@@ -2,6 +2,7 @@
 
 #include "app/game_state.h"
 #include "app/view.h"
+#include "race/scoring.h"
 #include "ui/layout.h"
 #include "ui/text.h"
 #include "ui/texts.h"

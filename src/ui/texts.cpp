@@ -1,5 +1,6 @@
 #include "ui/texts.h"
 
+#include "race/race_state.h"
 #include "ui/manual_pages.h"
 #include "ui/texts_language.h"
 

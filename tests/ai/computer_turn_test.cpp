@@ -1,7 +1,7 @@
 #include "ai/computer_turn.h"
 
 #include "app/game_state.h"
-#include "race/turn_cycle.h"
+#include "play/turn_cycle.h"
 #include "support/races.h"
 #include "support/scripted_rand.h"
 

@@ -1,10 +1,10 @@
 #include "board/geometry.h"
 
 #include "app/game_state.h"
-#include "app/overlays.h"
 #include "app/settings.h"
-#include "board/animation.h"
 #include "board/designer.h"
+#include "play/animation.h"
+#include "play/overlays.h"
 #include "support/fake_host.h"
 #include "support/races.h"
 
@@ -75,15 +75,16 @@ TEST(Geometry, SquaresOfABendAreSpreadEvenlyAlongTheirLane)
 TEST(Geometry, SquaresLieOnTheirPlaceAndFaceTheirWay)
 {
     setUpRace("01S23S4S5F12", {});
-    const BoardPoint start = boardPointOfSquare(0, 0, 3);
+    double heading = 0.0;
+    const BoardPoint start = boardPointOfSquare(0, 0, heading);
     EXPECT_FLOAT_EQ(start.x, 1117.0f - 393.0f / 8);
     EXPECT_FLOAT_EQ(start.y, 210.0f - 183.0f / 10);
-    EXPECT_NEAR(race.riders[3].heading, -std::numbers::pi, 1e-6);
+    EXPECT_NEAR(heading, -std::numbers::pi, 1e-6);
     // On the border of two pieces the earlier one serves: row 10.5 of section A runs downward.
-    boardPointOnPath(16.5f, 2.0f, 3);
-    EXPECT_NEAR(race.riders[3].heading, std::numbers::pi / 2, 1e-6);
-    boardPointOfSquare(60, 5, 3); // cobbles of D, to the right
-    EXPECT_NEAR(race.riders[3].heading, 0.0, 0.1);
+    boardPointOnPath(16.5f, 2.0f, heading);
+    EXPECT_NEAR(heading, std::numbers::pi / 2, 1e-6);
+    boardPointOfSquare(60, 5, heading); // cobbles of D, to the right
+    EXPECT_NEAR(heading, 0.0, 0.1);
 }
 
 TEST(Geometry, EveryRealSquareOfEveryCourseLiesOnTheSheet)
@@ -94,7 +95,7 @@ TEST(Geometry, EveryRealSquareOfEveryCourseLiesOnTheSheet)
             for (int lane = 0; lane < COURSE_LANES; ++lane) {
                 if (!isRealSquare(squareAt(row, lane)))
                     continue;
-                const BoardPoint at = boardPointOfSquare(row, lane, 0);
+                const BoardPoint at = boardPointOfSquare(row, lane, race.riders[0].heading);
                 EXPECT_TRUE(at.x > 20 && at.x < BOARD_WIDTH - 20 && at.y > 20 &&
                             at.y < BOARD_HEIGHT - 20)
                     << text << " row " << row << " lane " << lane;
@@ -115,8 +116,8 @@ TEST(Animation, CarriesRidersEvenlyAlongEveryLane)
                 if (squares.size() < 2)
                     continue;
                 race.riders[0].finished = 0;
-                BoardPoint last = boardPointOfSquare(squares[0].row, squares[0].lane, 0);
-                double heading = race.riders[0].heading;
+                double heading = 0.0;
+                BoardPoint last = boardPointOfSquare(squares[0].row, squares[0].lane, heading);
                 carry(squares, [&](bool setsOut) {
                     const Rider& rider = race.riders[0];
                     const BoardPoint now = {rider.x, rider.y};

@@ -1,8 +1,8 @@
 #include "app/game_state.h"
 #include "app/settings.h"
 #include "board/course.h"
+#include "play/start.h"
 #include "race/soundness.h"
-#include "race/start.h"
 #include "support/fake_host.h"
 #include "support/races.h"
 

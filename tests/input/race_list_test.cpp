@@ -3,7 +3,6 @@
 #include "app/view.h"
 #include "board/course.h"
 #include "race/race_state.h"
-#include "race/scoring.h"
 #include "screen/support/gl_window.h"
 #include "screen/support/player.h"
 #include "store/race_file.h"

@@ -1,7 +1,7 @@
 #include "app/game_state.h"
-#include "app/overlays.h"
 #include "app/settings.h"
 #include "app/view.h"
+#include "play/overlays.h"
 #include "race/race_state.h"
 #include "screen/support/gl_window.h"
 #include "screen/support/player.h"

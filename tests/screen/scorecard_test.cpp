@@ -2,6 +2,7 @@
 #include "app/view.h"
 #include "board/course.h"
 #include "race/race_state.h"
+#include "race/scoring.h"
 #include "screen/support/gl_window.h"
 #include "support/races.h"
 #include "ui/controls.h"

@@ -1,7 +1,7 @@
 #include "support/fake_host.h"
 
 #include "app/host.h"
-#include "board/animation.h"
+#include "play/animation.h"
 
 FakeHost fakeHost;
 

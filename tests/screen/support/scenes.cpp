@@ -2,19 +2,19 @@
 
 #include "app/game_state.h"
 #include "app/host.h"
-#include "app/overlays.h"
 #include "app/settings.h"
 #include "app/view.h"
 #include "board/course.h"
 #include "board/designer.h"
 #include "board/geometry.h"
 #include "input/actions.h"
-#include "race/cards.h"
-#include "race/doping.h"
+#include "play/cards.h"
+#include "play/doping.h"
+#include "play/movement.h"
+#include "play/overlays.h"
+#include "play/start.h"
 #include "race/event_deck.h"
-#include "race/movement.h"
 #include "race/race_state.h"
-#include "race/start.h"
 #include "store/courses_file.h"
 #include "store/race_file.h"
 #include "support/fake_host.h"
@@ -60,7 +60,7 @@ void personsRide()
     setUpPersonsRace(COURSE, {{0, 10, 0}, {4, 8, 0}, {3, 5, 2}, {14, 4, 3}});
     for (int index = 0; index < RIDER_COUNT; ++index) {
         Rider& rider = race.riders[index];
-        const BoardPoint at = boardPointOfSquare(rider.row, rider.lane, index);
+        const BoardPoint at = boardPointOfSquare(rider.row, rider.lane, rider.heading);
         rider.x = at.x;
         rider.y = at.y;
     }

@@ -1,16 +1,15 @@
-#include "race/following.h"
+#include "play/following.h"
 
 #include "ai/computer_choices.h"
 #include "ai/route_walk.h"
 #include "app/game_state.h"
 #include "app/host.h"
-#include "app/overlays.h"
 #include "app/view.h"
 #include "board/course.h"
-#include "board/geometry.h"
+#include "play/turn_cycle.h"
 #include "race/race_state.h"
+#include "race/rider_place.h"
 #include "race/scoring.h"
-#include "race/turn_cycle.h"
 
 static void writeBack(int rider)
 {
@@ -65,9 +64,7 @@ static void follow(Square from, Square target, int moves)
     rider.hasMoved = 1;
     course.courseOccupant[to.row][to.lane] = follower;
     recordCrossing(from.row, to.row, follower);
-    const BoardPoint at = boardPointOfSquare(to.row, to.lane, follower);
-    rider.x = at.x;
-    rider.y = at.y;
+    placeOnBoard(follower);
     updateRiderLap(follower);
     redrawNow();
     followChain(from.row, from.lane, moves, target.row, target.lane);

@@ -1,15 +1,15 @@
-#include "race/hand_in.h"
+#include "play/hand_in.h"
 
 #include "ai/computer_choices.h"
 #include "ai/computer_turn.h"
 #include "app/game_state.h"
 #include "app/host.h"
-#include "app/overlays.h"
 #include "app/view.h"
 #include "board/course.h"
+#include "play/turn_cycle.h"
 #include "race/card_rules.h"
 #include "race/race_state.h"
-#include "race/turn_cycle.h"
+#include "race/rider_place.h"
 
 int nextPendingRider()
 {

@@ -1,10 +1,11 @@
-#include "race/doping.h"
+#include "play/doping.h"
 
 #include "app/game_state.h"
-#include "app/overlays.h"
 #include "board/course.h"
+#include "play/overlays.h"
+#include "play/stage_end.h"
 #include "race/race_state.h"
-#include "race/scoring.h"
+#include "race/rider_place.h"
 
 #include <cstdlib>
 

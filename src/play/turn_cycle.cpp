@@ -1,14 +1,14 @@
-#include "race/turn_cycle.h"
+#include "play/turn_cycle.h"
 
 #include "ai/computer_turn.h"
 #include "app/game_state.h"
 #include "app/host.h"
 #include "app/view.h"
 #include "board/course.h"
-#include "board/geometry.h"
 #include "board/rider_motion.h"
-#include "race/doping.h"
+#include "play/doping.h"
 #include "race/race_state.h"
+#include "race/rider_place.h"
 
 #include <algorithm>
 
@@ -48,9 +48,7 @@ static void takeFinishersOff()
 static void clearThrow()
 {
     race.playedCards = race.dice = race.handInCards = filled<int, 2>(-1);
-    // A bonus that was used at once leaves its die on the screen for one turn more.
-    if (race.bonusMoves == 0)
-        race.extraDie = -1;
+    race.extraDie = -1;
     race.bonusMoves = 0;
     race.extraMoves = 0;
     race.eventRider = -1;
@@ -65,12 +63,9 @@ static bool roundIsOver()
 
 static void placeAt(int rider, Square square)
 {
-    Rider& record = race.riders[rider];
-    record.row = square.row;
-    record.lane = square.lane;
-    const BoardPoint at = boardPointOfSquare(square.row, square.lane, rider);
-    record.x = at.x;
-    record.y = at.y;
+    race.riders[rider].row = square.row;
+    race.riders[rider].lane = square.lane;
+    placeOnBoard(rider);
 }
 
 static bool isFree(int row, int lane)
@@ -181,11 +176,10 @@ void nextTurn()
 
 void liftOffBoard(int rider)
 {
-    Rider& record = race.riders[rider];
-    record.offBoard = 1;
-    record.hasMoved = 1;
+    race.riders[rider].offBoard = 1;
+    race.riders[rider].hasMoved = 1;
     leaveSquare(rider);
-    placeAt(rider, {record.row, record.lane});
+    placeOnBoard(rider);
 }
 
 void leaveRound()

@@ -1,14 +1,14 @@
-#include "race/events.h"
+#include "play/events.h"
 
 #include "ai/computer_turn.h"
 #include "app/game_state.h"
-#include "app/overlays.h"
 #include "board/course.h"
+#include "play/hand_in.h"
 #include "race/card_rules.h"
 #include "race/crashes.h"
 #include "race/event_deck.h"
-#include "race/hand_in.h"
 #include "race/race_state.h"
+#include "race/rider_place.h"
 
 #include <cstdlib>
 

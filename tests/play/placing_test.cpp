@@ -1,4 +1,4 @@
-#include "race/placing.h"
+#include "play/placing.h"
 
 #include "app/game_state.h"
 #include "board/course.h"

@@ -1,9 +1,9 @@
-#include "race/movement.h"
+#include "play/movement.h"
 
 #include "app/game_state.h"
 #include "board/course.h"
+#include "play/turn_cycle.h"
 #include "race/step_rule.h"
-#include "race/turn_cycle.h"
 #include "support/fake_host.h"
 #include "support/races.h"
 
@@ -85,7 +85,7 @@ TEST(Steering, UndoGoesBackToTheStartAndNoFurther)
     setUpPersonsRace(ONE_LAP, {{0, 5, 1}});
     beginPersonsMove(0, 4);
     steer("MRMM");
-    EXPECT_EQ(course.riderLapCount[0], 1); // the start section lies behind him
+    EXPECT_EQ(race.riderLapCount[0], 1); // the start section lies behind him
     undoStep();
     EXPECT_EQ(squareOfRider(0), (Square{8, 2}));
     steer("L");
@@ -94,7 +94,7 @@ TEST(Steering, UndoGoesBackToTheStartAndNoFurther)
         undoStep();
     EXPECT_EQ(squareOfRider(0), (Square{5, 1}));
     EXPECT_EQ(race.stepsTaken, 0);
-    EXPECT_EQ(course.riderLapCount[0], 0);
+    EXPECT_EQ(race.riderLapCount[0], 0);
 }
 
 TEST(EndOfMove, WithoutAStepHeIsOffTheBoard)

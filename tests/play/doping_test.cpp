@@ -1,10 +1,10 @@
-#include "race/doping.h"
+#include "play/doping.h"
 
 #include "app/game_state.h"
-#include "app/overlays.h"
-#include "race/cards.h"
+#include "play/cards.h"
+#include "play/overlays.h"
+#include "play/start.h"
 #include "race/scoring.h"
-#include "race/start.h"
 #include "support/races.h"
 #include "support/scripted_rand.h"
 

@@ -1,13 +1,12 @@
-#include "race/start.h"
+#include "play/start.h"
 
 #include "ai/route_search.h"
 #include "app/game_state.h"
-#include "app/overlays.h"
 #include "app/view.h"
 #include "board/course.h"
 #include "board/rider_motion.h"
+#include "play/placing.h"
 #include "race/event_deck.h"
-#include "race/placing.h"
 #include "race/race_state.h"
 
 static RaceState freshRace()

@@ -2,10 +2,7 @@
 
 #include "app/game_state.h"
 
-// Goes to a state and paints.
-void enter(GameState state);
-
-// The same, keeping the present state to go back to.
+// Goes over to a state, keeping the present one to go back to.
 void openOverlay(GameState state);
 
 // Screens that open on top of the race and go back to where it stood. Each stores the state to go

@@ -1,4 +1,4 @@
-#include "app/x11_platform.h"
+#include "x11_platform.h"
 
 #if defined(__unix__) && !defined(__APPLE__)
 

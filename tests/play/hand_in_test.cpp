@@ -1,9 +1,9 @@
-#include "race/hand_in.h"
+#include "play/hand_in.h"
 
 #include "app/game_state.h"
 #include "app/view.h"
 #include "board/course.h"
-#include "race/cards.h"
+#include "play/cards.h"
 #include "support/races.h"
 
 #include <gtest/gtest.h>

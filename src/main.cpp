@@ -1,9 +1,8 @@
 #include "app/game_state.h"
 #include "app/host.h"
-#include "app/x11_platform.h"
-#include "board/animation.h"
 #include "input/keyboard.h"
 #include "input/mouse.h"
+#include "play/animation.h"
 #include "store/settings_file.h"
 #include "ui/frame.h"
 #include "ui/loading.h"
@@ -11,6 +10,7 @@
 #include "ui/settings_screen.h"
 #include "ui/texts.h"
 #include "ui/textures.h"
+#include "x11_platform.h"
 
 #include <GL/freeglut.h>
 

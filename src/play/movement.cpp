@@ -1,14 +1,15 @@
-#include "race/movement.h"
+#include "play/movement.h"
 
 #include "app/game_state.h"
 #include "app/host.h"
 #include "board/course.h"
 #include "board/geometry.h"
-#include "race/following.h"
+#include "play/following.h"
+#include "play/turn_cycle.h"
 #include "race/race_state.h"
+#include "race/rider_place.h"
 #include "race/scoring.h"
 #include "race/step_rule.h"
-#include "race/turn_cycle.h"
 
 static Rider& mover()
 {
@@ -37,7 +38,7 @@ void stepRider(char letter)
     mover().offBoard = 0;
     race.pathSquares[++race.stepsTaken] = {static_cast<float>(landing.row),
                                            static_cast<float>(landing.lane)};
-    moveTo(boardPointOfSquare(landing.row, landing.lane, race.currentRider));
+    moveTo(boardPointOfSquare(landing.row, landing.lane, mover().heading));
 }
 
 void undoStep()
@@ -47,7 +48,7 @@ void undoStep()
     const PathSquare& before = race.pathSquares[--race.stepsTaken];
     mover().row = static_cast<int>(before.row);
     mover().lane = static_cast<int>(before.lane);
-    moveTo(boardPointOnPath(before.row, before.lane, race.currentRider));
+    moveTo(boardPointOnPath(before.row, before.lane, mover().heading));
 }
 
 static bool mayEndMove()

@@ -1,12 +1,12 @@
-#include "race/events.h"
+#include "play/events.h"
 
 #include "app/game_state.h"
 #include "board/course.h"
+#include "play/cards.h"
+#include "play/hand_in.h"
+#include "play/turn_cycle.h"
 #include "race/card_rules.h"
-#include "race/cards.h"
 #include "race/event_deck.h"
-#include "race/hand_in.h"
-#include "race/turn_cycle.h"
 #include "support/races.h"
 #include "support/scripted_rand.h"
 

@@ -1,13 +1,15 @@
-#include "race/cards.h"
+#include "play/cards.h"
 
 #include "app/game_state.h"
 #include "app/host.h"
-#include "app/overlays.h"
 #include "board/course.h"
 #include "race/card_rules.h"
+#include "race/dice.h"
 #include "race/event_deck.h"
 #include "race/race_state.h"
+#include "race/rider_place.h"
 
+#include <algorithm>
 #include <cstdlib>
 
 static bool handingIn()
@@ -33,6 +35,13 @@ static bool placeFreeForThrow()
     if (terrainOf(race.currentRider) == TERRAIN_COBBLES)
         return race.playedCards[0] == -1 && race.playedCards[1] == -1;
     return race.playedCards[0] == -1 || race.playedCards[1] == -1;
+}
+
+int handInSlotCount()
+{
+    if (gameState == STATE_EVENT_HANDIN || terrainOf(race.currentRider) == TERRAIN_COBBLES)
+        return 1;
+    return std::clamp(race.riders[race.currentRider].skipTurns, 1, 2);
 }
 
 static bool placeFreeForHandIn()
@@ -70,23 +79,6 @@ void toggleBreakaway()
     if (gameState != STATE_TURN || (race.playedCards[0] == -1 && race.playedCards[1] == -1))
         return;
     race.breakaway = 1 - race.breakaway;
-    redrawNow();
-}
-
-static int valueInPlace(int card, int thrown)
-{
-    if (card == -1)
-        return thrown;
-    if (card == DOPING_CARD)
-        return race.dopingCardValue;
-    return cardValueOf(riderTeam(race.currentRider), card);
-}
-
-void throwDice()
-{
-    const int both = std::rand() % 36;
-    race.dice[0] = valueInPlace(race.playedCards[0], both % 6 + 1);
-    race.dice[1] = valueInPlace(race.playedCards[1], both / 6 + 1);
     redrawNow();
 }
 

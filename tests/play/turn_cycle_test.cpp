@@ -1,9 +1,9 @@
-#include "race/turn_cycle.h"
+#include "play/turn_cycle.h"
 
 #include "app/game_state.h"
 #include "app/view.h"
 #include "board/course.h"
-#include "race/movement.h"
+#include "play/movement.h"
 #include "race/soundness.h"
 #include "support/races.h"
 

@@ -1,12 +1,12 @@
-#include "race/placing.h"
+#include "play/placing.h"
 
 #include "ai/computer_choices.h"
 #include "app/game_state.h"
 #include "app/host.h"
-#include "app/overlays.h"
 #include "board/course.h"
-#include "board/geometry.h"
-#include "race/turn_cycle.h"
+#include "play/turn_cycle.h"
+#include "race/race_state.h"
+#include "race/rider_place.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -80,9 +80,7 @@ static void standOnGrid(Square square)
     rider.row = square.row;
     rider.lane = square.lane;
     course.courseOccupant[square.row][square.lane] = race.currentRider;
-    const BoardPoint at = boardPointOfSquare(square.row, square.lane, race.currentRider);
-    rider.x = at.x;
-    rider.y = at.y;
+    placeOnBoard(race.currentRider);
     race.placingRow = 0;
     race.placingLane = firstStartLane();
     redrawNow();

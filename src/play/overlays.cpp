@@ -1,15 +1,10 @@
-#include "app/overlays.h"
+#include "play/overlays.h"
 
+#include "app/game_state.h"
 #include "app/host.h"
 #include "app/settings.h"
 #include "app/view.h"
 #include "race/race_state.h"
-
-void enter(GameState state)
-{
-    gameState = state;
-    redrawNow();
-}
 
 void openOverlay(GameState state)
 {

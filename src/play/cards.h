@@ -9,11 +9,12 @@ void pickCard(int slot);
 // Takes back the card in place 0 or 1 of playedCards or handInCards. The doping card stays.
 void unpickCard(int index);
 
+// How many cards a person may put up in STATE_SKIP_HANDIN or STATE_EVENT_HANDIN: one for an event
+// card that wants one and on cobbles, else one for each turn to miss, at most two.
+int handInSlotCount();
+
 // Only in STATE_TURN with a card laid.
 void toggleBreakaway();
-
-// Turns one random number and the cards laid into dice.
-void throwDice();
 
 // "Throw" of a person's rider, only in STATE_TURN.
 void humanThrow();

@@ -1,4 +1,4 @@
-#include "race/cards.h"
+#include "play/cards.h"
 
 #include "app/game_state.h"
 #include "board/course.h"

@@ -1,9 +1,9 @@
-#include "race/following.h"
+#include "play/following.h"
 
 #include "app/game_state.h"
 #include "app/view.h"
 #include "board/course.h"
-#include "race/movement.h"
+#include "play/movement.h"
 #include "support/races.h"
 
 #include <gtest/gtest.h>
@@ -156,7 +156,7 @@ TEST(Following, ARiderALapAheadFollowsOnHisOwnLap)
     ASSERT_TRUE(asked(4));
     followYes();
     EXPECT_EQ(squareOfRider(4), (Square{106 + 109, 5 + 3}));
-    EXPECT_EQ(course.riderLapCount[4], 2);
+    EXPECT_EQ(race.riderLapCount[4], 2);
     ASSERT_TRUE(asked(9)); // the line goes on a lap behind
     followYes();
     EXPECT_EQ(squareOfRider(9), (Square{105, 5}));

@@ -1,4 +1,4 @@
-#include "race/start.h"
+#include "play/start.h"
 
 #include "app/game_state.h"
 #include "app/view.h"

@@ -1,11 +1,13 @@
-#include "board/animation.h"
+#include "play/animation.h"
 
 #include "app/game_state.h"
 #include "app/host.h"
 #include "app/settings.h"
 #include "board/geometry.h"
 #include "board/rider_motion.h"
-#include "race/movement.h"
+#include "play/movement.h"
+#include "race/race_state.h"
+#include "race/rider_place.h"
 
 #include <algorithm>
 #include <cmath>
@@ -39,7 +41,7 @@ static void standOnSquare(Square square)
         rider.row = square.row;
         rider.lane = square.lane;
     }
-    const BoardPoint at = boardPointOfSquare(square.row, square.lane, race.currentRider);
+    const BoardPoint at = boardPointOfSquare(square.row, square.lane, rider.heading);
     rider.x = at.x;
     rider.y = at.y;
     updateRiderLap(race.currentRider);
