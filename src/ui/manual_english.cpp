@@ -19,7 +19,7 @@ const char MANUAL_ENGLISH[] =
     "cards, ticked as well, brings those cards into play. For a race on one course choose Single "
     "stage. With Multiple stages, fill in Race name: the race is saved after each stage, and "
     "Continue existing race takes it up again. OK leads on to the choice of a course. If a name is "
-    "missing, or a saved race has the same name, a message says so."
+    "missing, or the race name is taken, a message says so."
     "<2>Course Selection Screen</2>"
     "Four courses are ready to ride. A white frame shows which picture the mouse is on; click, and "
     "the race begins. Use saved course shows the courses that you have designed and saved: leaf "

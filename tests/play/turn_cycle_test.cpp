@@ -42,25 +42,16 @@ TEST(NextTurn, FrontMostOfThoseLeftPlays)
     EXPECT_EQ(race.roundNumber, 2);
 }
 
-TEST(NextTurn, AnExtraDieOutlastsABonusByOneTurn)
-{
-    setUpPersonsRace(ONE_LAP, {{3, 7, 2}, {6, 7, 4}});
-    race.extraDie = 3;
-    race.bonusMoves = BLUE_CARD;
-    nextTurn();
-    EXPECT_EQ(race.extraDie, 3);
-    nextTurn();
-    EXPECT_EQ(race.extraDie, -1);
-}
-
 TEST(NextTurn, ForgetsTheMoveBefore)
 {
     setUpPersonsRace(ONE_LAP, {{3, 7, 2}});
     race.extraMoves = 4;
+    race.extraDie = 3;
     race.breakaway = 1;
     race.handInCards = {0, 1};
     nextTurn();
     EXPECT_EQ(race.extraMoves, 0);
+    EXPECT_EQ(race.extraDie, -1);
     EXPECT_EQ(race.breakaway, 0);
     EXPECT_EQ(race.handInCards, (Table<int, 2>{-1, -1}));
 }
