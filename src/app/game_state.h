@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdint>
+
 // What the program is doing. Every callback branches on this one value.
 
 // clang-format off
@@ -60,24 +62,46 @@ extern GameState returnState;
 // Goes over to a state and paints it.
 void enter(GameState state);
 
-// Whether the present state shows the race screen: the board and the panel at its foot.
+// A set of states.
+struct StateSet {
+    std::uint64_t bits = 0;
+
+    constexpr bool contains(GameState state) const { return (bits >> state & 1) != 0; }
+};
+
+template <typename... States> constexpr StateSet in(States... states)
+{
+    return {((std::uint64_t{1} << states) | ...)};
+}
+
+// Where Scorecard, Positions, Settings and Quit act.
+constexpr StateSet RACE_PANEL_STATES =
+    in(STATE_TURN, STATE_MOVE, STATE_ANIMATE, STATE_SKIP_HANDIN, STATE_EVENT_DIE,
+       STATE_EVENT_HANDIN, STATE_ORDER_THROW, STATE_ORDER_RESULT, STATE_PLACE_HUMAN);
+
+// Where the buttons for view and camera act.
+constexpr StateSet CAMERA_STATES =
+    in(STATE_TURN, STATE_MOVE, STATE_ANIMATE, STATE_FOLLOW_PROMPT, STATE_EVENT_CARD,
+       STATE_SKIP_HANDIN, STATE_EVENT_CARD_KIND, STATE_EVENT_CARD_WHEN, STATE_EVENT_DIE,
+       STATE_ORDER_THROW, STATE_ORDER_RESULT, STATE_PLACE_HUMAN);
+
+// Where strength cards are picked and taken back.
+constexpr StateSet CARD_STATES = in(STATE_TURN, STATE_SKIP_HANDIN, STATE_EVENT_HANDIN);
+
+// Where the score sheet stands on the screen and can be dragged by its title bar.
+constexpr StateSet SCORECARD_STATES =
+    in(STATE_SCORECARD, STATE_FINAL_SCORECARD, STATE_RACE_STANDINGS);
+
+// Where the race screen isn't shown: the board and the panel at its foot.
+constexpr StateSet STATES_WITHOUT_BOARD =
+    in(STATE_POSITIONS, STATE_MAIN_MENU, STATE_LANGUAGE, STATE_MANUAL, STATE_COURSE_SELECT,
+       STATE_COURSE_DESIGN, STATE_COURSE_SAVED, STATE_TEAM_SETUP, STATE_LOADING, STATE_SETTINGS,
+       STATE_SETUP_MESSAGE, STATE_RACE_FILES, STATE_RACE_STANDINGS);
+
+// Where a team's tab brings its cards into view: wherever the board is drawn, but under the
+// scorecards.
+constexpr StateSet TEAM_TAB_STATES = {~STATES_WITHOUT_BOARD.bits & ~SCORECARD_STATES.bits};
+
 bool boardVisible();
-
-// The states in which Scorecard, Positions, Settings and Quit act and are drawn active.
-bool racePanelActive();
-
-// The states in which the buttons for view and camera act.
-bool cameraActive();
-
-// The states in which a team's tab brings its cards into view: wherever the board is drawn, but
-// under the scorecards.
-bool teamTabsActive();
-
-// The states in which strength cards are picked and taken back.
 bool cardsActive();
-
-// The states in which the score sheet stands on the screen and can be dragged by its title bar.
 bool scorecardShown();
-
-// The states in which a dialog box stands on the screen and can be dragged by its title bar.
-bool dialogShown();

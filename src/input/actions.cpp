@@ -85,11 +85,6 @@ void goToCourses()
     openOverlay(STATE_COURSE_SELECT);
 }
 
-void closeSetupMessage()
-{
-    enter(STATE_TEAM_SETUP);
-}
-
 void chooseHoveredCourse()
 {
     if (courseScreens.courseHover == -1)

@@ -11,7 +11,6 @@ void openTeamSetup();
 
 // "OK" on the team setup screen: goes on to the choice of a course, or tells what is missing.
 void confirmTeamSetup();
-void closeSetupMessage();
 
 // Names the files of a race of several stages: baseName is that of its race file without the
 // extension. Any other race has none but that of its standings.

@@ -1,30 +1,20 @@
 #include "input/keyboard.h"
 
 #include "app/game_state.h"
-#include "app/host.h"
 #include "app/table.h"
 #include "app/view.h"
 #include "board/course.h"
 #include "input/actions.h"
-#include "input/course_input.h"
-#include "input/keys.h"
+#include "input/acts.h"
 #include "input/menu_input.h"
-#include "input/race_list_input.h"
 #include "input/scorecard_input.h"
 #include "input/settings_input.h"
 #include "input/setup_input.h"
 #include "play/cards.h"
-#include "play/doping.h"
-#include "play/events.h"
-#include "play/following.h"
-#include "play/hand_in.h"
 #include "play/movement.h"
-#include "play/overlays.h"
 #include "play/placing.h"
-#include "play/stage_end.h"
-#include "play/turn_cycle.h"
 #include "race/race_state.h"
-#include "ui/access_keys.h"
+#include "ui/keys.h"
 
 #include <GL/freeglut.h>
 
@@ -37,116 +27,6 @@ static int modifiersOfGlut()
 
 int (*heldModifiers)() = modifiersOfGlut;
 
-// Key and what it does. The first row whose control has the key as its letter is taken.
-struct LetterAction {
-    Control control;
-    void (*act)();
-};
-
-template <int N> static void actOnLetter(unsigned char key, const LetterAction (&actions)[N])
-{
-    for (const LetterAction& action : actions)
-        if (isAccessKey(action.control, key))
-            return action.act();
-}
-
-static void receiveBlueCard()
-{
-    receiveWonCard(BLUE_CARD);
-}
-
-static void receiveWhiteCard()
-{
-    receiveWonCard(WHITE_CARD);
-}
-
-static void useCardNow()
-{
-    useWonCard(true);
-}
-
-static void keepCard()
-{
-    useWonCard(false);
-}
-
-// clang-format off
-constexpr LetterAction turnLetters[] =     {{CONTROL_THROW, humanThrow}, {CONTROL_BREAKAWAY, toggleBreakaway}, {CONTROL_DOPING, askDoping}};
-constexpr LetterAction extraDieLetters[] = {{CONTROL_THROW, throwExtraDie}};
-constexpr LetterAction orderLetters[] =    {{CONTROL_THROW, throwForOrder}};
-constexpr LetterAction resultLetters[] =   {{CONTROL_NEXT, afterOrderThrow}};
-constexpr LetterAction followLetters[] =   {{CONTROL_YES, followYes}, {CONTROL_NO, followNo}};
-constexpr LetterAction quitLetters[] =     {{CONTROL_YES, toMainMenu}, {CONTROL_NO, closeOverlay}};
-constexpr LetterAction kindLetters[] =     {{CONTROL_BLUE, receiveBlueCard}, {CONTROL_WHITE, receiveWhiteCard}};
-constexpr LetterAction whenLetters[] =     {{CONTROL_IMMEDIATELY, useCardNow}, {CONTROL_LATER, keepCard}};
-constexpr LetterAction dopingLetters[] =   {{CONTROL_YES, confirmDoping}, {CONTROL_NO, closeOverlay}};
-constexpr LetterAction saveLetters[] =     {{CONTROL_RETRY, retrySave}, {CONTROL_ABORT, abortSave}};
-constexpr LetterAction menuLetters[] =     {{CONTROL_START, openTeamSetup}, {CONTROL_MANUAL, openManual}, {CONTROL_MENU_SETTINGS, openSettings},
-                                            {CONTROL_LANGUAGE, openLanguages}, {CONTROL_CONTINUE, openRaceFiles}, {CONTROL_EXIT, quitProgram}};
-constexpr LetterAction courseLetters[] =   {{CONTROL_CREATE_COURSE, openCourseDesigner}, {CONTROL_SAVED_COURSE, openSavedCourses}, {CONTROL_COURSE_BACK, leaveCourseSelection}};
-constexpr LetterAction panelLetters[] =    {{CONTROL_QUIT, openQuitConfirm}, {CONTROL_SCORECARD, openScorecard}, {CONTROL_POSITIONS, openPositions},
-                                            {CONTROL_RACE_SETTINGS, openSettings}};
-// clang-format on
-
-static void letterOfState(unsigned char key)
-{
-    switch (gameState) {
-    case STATE_TURN:
-        return actOnLetter(key, turnLetters);
-    case STATE_EVENT_DIE:
-        return actOnLetter(key, extraDieLetters);
-    case STATE_ORDER_THROW:
-        return actOnLetter(key, orderLetters);
-    case STATE_ORDER_RESULT:
-        return actOnLetter(key, resultLetters);
-    case STATE_FOLLOW_PROMPT:
-        return actOnLetter(key, followLetters);
-    case STATE_CONFIRM_QUIT:
-        return actOnLetter(key, quitLetters);
-    case STATE_EVENT_CARD_KIND:
-        return actOnLetter(key, kindLetters);
-    case STATE_EVENT_CARD_WHEN:
-        return actOnLetter(key, whenLetters);
-    case STATE_CONFIRM_DOPING:
-        return actOnLetter(key, dopingLetters);
-    case STATE_SAVE_FAILED:
-        return actOnLetter(key, saveLetters);
-    case STATE_MAIN_MENU:
-        return actOnLetter(key, menuLetters);
-    case STATE_COURSE_SELECT:
-        return actOnLetter(key, courseLetters);
-    default:
-        return;
-    }
-}
-
-// What "OK" does in the present state, or null where the confirming keys are keys like any other.
-static void (*confirmation())()
-{
-    switch (gameState) {
-    case STATE_EVENT_CARD:
-        return applyEventCard;
-    case STATE_SKIP_HANDIN:
-    case STATE_EVENT_HANDIN:
-    case STATE_SKIP_NO_CARD:
-        return confirmHandIn;
-    case STATE_EVENT_NO_CARD:
-        return goOnWithoutEventCard;
-    case STATE_NO_MOVE:
-        return leaveRound;
-    case STATE_DOPING_NUMBER:
-        return takeDopingCard;
-    case STATE_DOPING_DRAW:
-        return afterDopingDraw;
-    case STATE_DOPING_COUNTERCHECK:
-        return nextCountercheck;
-    case STATE_SETUP_MESSAGE:
-        return closeSetupMessage;
-    default:
-        return nullptr;
-    }
-}
-
 static void steeringKey(unsigned char key)
 {
     const bool done = key == KEY_ENTER || key == KEY_SPACE;
@@ -158,38 +38,43 @@ static void steeringKey(unsigned char key)
         undoStep();
 }
 
-static void keyOfState(unsigned char key, bool backward)
+// Keys that are no button's. True where all of them are, as in fields of text.
+static bool specialKey(unsigned char key, bool backward)
 {
     switch (gameState) {
     case STATE_MOVE:
     case STATE_PLACE_HUMAN:
-        return steeringKey(key);
+        steeringKey(key);
+        return true;
     case STATE_TEAM_SETUP:
-        return keyInTeamSetup(key, backward);
-    case STATE_COURSE_DESIGN:
-        return keyInCourseDesigner(key);
+        keyInTeamSetup(key, backward);
+        return true;
+    case STATE_SETTINGS:
+        keyInSettings(key, backward);
+        return true;
     case STATE_MANUAL:
-        return keyInManual(key);
-    case STATE_RACE_FILES:
-        return keyInRaceFiles(key);
+        keyInManual(key);
+        return false;
     case STATE_SCORECARD:
     case STATE_FINAL_SCORECARD:
     case STATE_RACE_STANDINGS:
-        return keyInScorecard(key);
-    case STATE_POSITIONS:
-        return keyInPositions(key);
-    case STATE_SETTINGS:
-        return keyInSettings(key, backward);
+        keyInScorecard(key);
+        return false;
     default:
-        break;
+        return false;
     }
-    void (*const confirm)() = isConfirming(key) ? confirmation() : nullptr;
-    confirm ? confirm() : letterOfState(key);
+}
+
+static void pressControl(unsigned char key, bool panel)
+{
+    const Control control = controlOfKey(key, panel);
+    if (control != NO_CONTROL)
+        actOn(control);
 }
 
 static void teamTabKey(bool backward)
 {
-    if (!teamTabsActive())
+    if (!TEAM_TAB_STATES.contains(gameState))
         return;
     showTeam((view.shownTeam + (backward ? TEAM_COUNT - 1 : 1)) % TEAM_COUNT);
 }
@@ -243,9 +128,9 @@ void onKeyUp(unsigned char key, int, int)
         return;
     const bool backward = key == KEY_TAB && (std::exchange(tabPressedBackward, false) ||
                                              (heldModifiers() & GLUT_ACTIVE_SHIFT) != 0);
-    keyOfState(key, backward);
-    if (racePanelActive())
-        actOnLetter(key, panelLetters);
+    if (!specialKey(key, backward))
+        pressControl(key, false);
+    pressControl(key, true);
     if (key == KEY_TAB)
         teamTabKey(backward);
 }

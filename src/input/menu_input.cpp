@@ -4,11 +4,11 @@
 #include "app/host.h"
 #include "app/settings.h"
 #include "input/actions.h"
-#include "input/keys.h"
 #include "play/overlays.h"
 #include "store/settings_file.h"
-#include "ui/controls.h"
+#include "ui/keys.h"
 #include "ui/manual_pages.h"
+#include "ui/places.h"
 #include "ui/texts.h"
 
 #include <GL/freeglut.h>
@@ -59,21 +59,16 @@ static void showPage(int page)
     redrawNow();
 }
 
-void releaseInManual(int x, int y)
+void turnManual(int pages)
 {
-    if (manualOkButton().contains(x, y))
-        toMainMenu();
-    else if (prevPageButton().contains(x, y))
-        showPage(manualPage - 1);
-    else if (nextPageButton().contains(x, y))
-        showPage(manualPage + 1);
+    showPage(manualPage + pages);
 }
 
 void keyInManual(unsigned char key)
 {
     if (key == KEY_ENTER || key == KEY_SPACE)
-        showPage(manualPage + 1);
-    else if (key == KEY_ESCAPE || key == 'o' || key == 'O')
+        turnManual(1);
+    else if (key == KEY_ESCAPE)
         toMainMenu();
 }
 
@@ -83,11 +78,11 @@ void specialInManual(int key)
     case GLUT_KEY_LEFT:
     case GLUT_KEY_UP:
     case GLUT_KEY_PAGE_UP:
-        return showPage(manualPage - 1);
+        return turnManual(-1);
     case GLUT_KEY_RIGHT:
     case GLUT_KEY_DOWN:
     case GLUT_KEY_PAGE_DOWN:
-        return showPage(manualPage + 1);
+        return turnManual(1);
     case GLUT_KEY_HOME:
         return showPage(0);
     case GLUT_KEY_END:

@@ -14,8 +14,9 @@ void hoverLanguage(int x, int y);
 // back to the main menu in it.
 void chooseLanguage();
 
-// A release of the left button in the manual, in pixels of the drawing area.
-void releaseInManual(int x, int y);
+// So many pages on, as far as there are any.
+void turnManual(int pages);
 
+// The keys of the manual that are no button's.
 void keyInManual(unsigned char key);
 void specialInManual(int key);

@@ -6,27 +6,22 @@
 #include "board/designer.h"
 #include "board/pictures.h"
 #include "input/actions.h"
+#include "input/acts.h"
 #include "input/course_input.h"
 #include "input/menu_input.h"
 #include "input/race_list_input.h"
-#include "input/scorecard_input.h"
 #include "input/settings_input.h"
 #include "input/setup_input.h"
 #include "play/cards.h"
-#include "play/doping.h"
-#include "play/events.h"
-#include "play/following.h"
-#include "play/hand_in.h"
-#include "play/overlays.h"
-#include "play/placing.h"
-#include "play/stage_end.h"
-#include "play/turn_cycle.h"
 #include "race/race_state.h"
 #include "ui/controls.h"
+#include "ui/dialogs.h"
 #include "ui/layout.h"
+#include "ui/places.h"
 
 #include <GL/freeglut.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <utility>
 
@@ -43,100 +38,20 @@ static Point inDrawingArea(int x, int y)
     return {x - layout.viewX, y - layout.viewY};
 }
 
-static void pressInTurn(Point at)
+// Does what the control there is for, if one acts at this moment, and tells which it was.
+static Control actAt(Point at, Moment moment)
 {
-    if (at.in(throwButton()))
-        humanThrow();
-    else if (at.in(dicePlace(0)))
-        unpickCard(0);
-    else if (at.in(dicePlace(1)))
-        unpickCard(1);
-    else if (at.in(breakawayBox()))
-        toggleBreakaway();
-    else if (at.in(dopingButton()))
-        askDoping();
+    const Control control = controlAt(at.x, at.y, moment);
+    if (control != NO_CONTROL)
+        actOn(control);
+    return control;
 }
 
-static void pressScreen(Point at)
+static void pressDice(Point at)
 {
-    if (gameState == STATE_TURN)
-        pressInTurn(at);
-    else if (gameState == STATE_EVENT_DIE && at.in(extraThrowButton()))
-        throwExtraDie();
-}
-
-static void releaseInMainMenu(Point at)
-{
-    if (at.in(menuStartButton()))
-        openTeamSetup();
-    else if (at.in(menuManualButton()))
-        openManual();
-    else if (at.in(menuSettingsButton()))
-        openSettings();
-    else if (at.in(menuLanguageButton()))
-        openLanguages();
-    else if (at.in(menuContinueButton()))
-        openRaceFiles();
-    else if (at.in(exitButton()))
-        quitProgram();
-}
-
-static void releaseInCourseSelection(Point at)
-{
-    if (at.in(cornerButton()))
-        leaveCourseSelection();
-    else if (at.in(newCourseButton()))
-        openCourseDesigner();
-    else if (at.in(savedCourseButton()))
-        openSavedCourses();
-    else
-        chooseHoveredCourse();
-}
-
-static void confirm(Point at, const Rect& button, void (*act)())
-{
-    if (at.in(button))
-        act();
-}
-
-static void releaseScreen(Point at)
-{
-    switch (gameState) {
-    case STATE_ORDER_THROW:
-        return confirm(at, throwButton(), throwForOrder);
-    case STATE_ORDER_RESULT:
-        return confirm(at, throwButton(), afterOrderThrow);
-    case STATE_MAIN_MENU:
-        return releaseInMainMenu(at);
-    case STATE_LANGUAGE:
-        return chooseLanguage();
-    case STATE_MANUAL:
-        return releaseInManual(at.x, at.y);
-    case STATE_SETTINGS:
-        return releaseInSettings(at.x, at.y);
-    case STATE_TEAM_SETUP:
-        return releaseInTeamSetup(at.x, at.y);
-    case STATE_COURSE_SELECT:
-        return releaseInCourseSelection(at);
-    case STATE_COURSE_DESIGN:
-        return releaseInCourseDesigner(at.x, at.y);
-    case STATE_COURSE_SAVED:
-        return releaseInSavedCourses(at.x, at.y);
-    case STATE_RACE_FILES:
-        return releaseInRaceFiles(at.x, at.y);
-    default:
-        return;
-    }
-}
-
-static void releaseTeamTab(Point at)
-{
-    if (!teamTabsActive())
-        return;
-    for (int team = 0; team < TEAM_COUNT; ++team) {
-        if (at.in(teamTab(team)))
-            return showTeam(team);
-    }
+    for (const int die : {0, 1})
+        if (gameState == STATE_TURN && at.in(dicePlace(die)))
+            return unpickCard(die);
 }
 
 static bool cardsAct()
@@ -148,8 +63,6 @@ static void pressHandIn(Point at)
 {
     if (gameState != STATE_SKIP_HANDIN && gameState != STATE_EVENT_HANDIN)
         return;
-    if (at.in(handInOkButton()))
-        return confirmHandIn();
     for (int slot = 0; slot < race.handInCards.size(); ++slot) {
         if (race.handInCards[slot] != -1 && at.in(handInSlot(slot)))
             return unpickCard(slot);
@@ -164,58 +77,6 @@ static void pressCard(Point at)
     for (int slot = 0; slot < CARD_SLOT_COUNT; ++slot) {
         if (at.in(cardPlace(slot)))
             return pickCard(slot);
-    }
-}
-
-static void answer(Point at, void (*left)(), void (*right)())
-{
-    if (at.in(dialogLeftButton()))
-        left();
-    else if (at.in(dialogRightButton()))
-        right();
-}
-
-static void releaseDialog(Point at)
-{
-    switch (gameState) {
-    case STATE_FOLLOW_PROMPT:
-        return answer(at, followYes, followNo);
-    case STATE_EVENT_CARD:
-        return confirm(at, dialogOkButton(), applyEventCard);
-    case STATE_EVENT_CARD_KIND:
-        return answer(
-            at, [] { receiveWonCard(BLUE_CARD); }, [] { receiveWonCard(WHITE_CARD); });
-    case STATE_EVENT_CARD_WHEN:
-        return answer(
-            at, [] { useWonCard(true); }, [] { useWonCard(false); });
-    case STATE_EVENT_NO_CARD:
-        return confirm(at, dialogOkButton(), goOnWithoutEventCard);
-    case STATE_NO_MOVE:
-        return confirm(at, dialogOkButton(), leaveRound);
-    case STATE_CONFIRM_DOPING:
-        return answer(at, confirmDoping, closeOverlay);
-    case STATE_DOPING_NUMBER:
-        return confirm(at, dialogOkButton(), takeDopingCard);
-    case STATE_DOPING_DRAW:
-        return confirm(at, dialogOkButton(), afterDopingDraw);
-    case STATE_DOPING_COUNTERCHECK:
-        return confirm(at, dialogOkButton(), nextCountercheck);
-    case STATE_SAVE_FAILED:
-        return answer(at, retrySave, abortSave);
-    case STATE_CONFIRM_QUIT:
-        return answer(at, toMainMenu, closeOverlay);
-    case STATE_SKIP_NO_CARD:
-        return confirm(at, dialogOkButton(), confirmHandIn);
-    case STATE_SETUP_MESSAGE:
-        return confirm(at, dialogOkButton(), closeSetupMessage);
-    case STATE_SCORECARD:
-    case STATE_FINAL_SCORECARD:
-    case STATE_RACE_STANDINGS:
-        return releaseInScorecard(at.x, at.y);
-    case STATE_POSITIONS:
-        return releaseInPositions(at.x, at.y);
-    default:
-        return;
     }
 }
 
@@ -236,51 +97,71 @@ static void pressTitleBar(Point at)
         startDrag(at, scorecardTitleBar(), scorecardBox());
 }
 
-static void pressSidePanel(Point at)
-{
-    if (!racePanelActive())
-        return;
-    if (at.in(quitButton()))
-        openQuitConfirm();
-    else if (at.in(scorecardButton()))
-        openScorecard();
-    else if (at.in(positionsButton()))
-        openPositions();
-    else if (at.in(settingsButton()))
-        openSettings();
-}
-
-// The camera button alone takes the right button too.
-static void pressCamera(int button, Point at)
-{
-    if (!cameraActive())
-        return;
-    if (button == GLUT_LEFT_BUTTON && at.in(viewToggle()))
-        toggleView();
-    else if (at.in(cameraButton()))
-        changeCamera(button == GLUT_RIGHT_BUTTON ? CAMERA_PREVIOUS : CAMERA_NEXT);
-}
-
 // One press can open a dialog and what follows sees the new state, so the order counts.
-static void pressLeft(Point at)
+static Control pressLeft(Point at)
 {
-    pressScreen(at);
-    pressHandIn(at);
+    if (actAt(at, ON_PRESS) == NO_CONTROL)
+        pressDice(at);
+    const Control handedIn = actAt(at, ON_PRESS_HAND_IN);
+    if (handedIn == NO_CONTROL)
+        pressHandIn(at);
     pressCard(at);
     pressTitleBar(at);
-    pressSidePanel(at);
-    pressCamera(GLUT_LEFT_BUTTON, at);
+    actAt(at, ON_PRESS_PANEL);
+    actAt(at, ON_PRESS_CAMERA);
+    return handedIn;
+}
+
+// What a release does beside the buttons of a screen. Fields and names lie above buttons that they
+// touch, everything else below.
+static bool releaseAbove(Point at)
+{
+    switch (gameState) {
+    case STATE_LANGUAGE:
+        chooseLanguage();
+        return true;
+    case STATE_TEAM_SETUP:
+        return releaseInNameFields(at.x, at.y);
+    case STATE_RACE_FILES:
+        return releaseOnRaceName(at.x, at.y);
+    case STATE_COURSE_DESIGN:
+        forgetSaveFailure();
+        return false;
+    default:
+        return false;
+    }
+}
+
+static void releaseBelow(Point at)
+{
+    if (gameState == STATE_COURSE_SELECT)
+        chooseHoveredCourse();
+    else if (gameState == STATE_COURSE_DESIGN)
+        releaseInSectionList(at.x, at.y);
+    else if (gameState == STATE_SETTINGS)
+        releaseInSettingsFields(at.x, at.y);
+}
+
+static Control releaseScreen(Point at)
+{
+    if (releaseAbove(at))
+        return NO_CONTROL;
+    const Control control = actAt(at, ON_RELEASE);
+    if (control == NO_CONTROL)
+        releaseBelow(at);
+    return control;
 }
 
 // A dialog is answered only by a click that began on it: one that opened it, where it has been
 // dragged in front of a button, hasn't read it.
-static void releaseLeft(Point at, GameState pressedIn)
+static Control releaseLeft(Point at, GameState pressedIn)
 {
     view.dragActive = false;
-    releaseScreen(at);
-    releaseTeamTab(at);
+    Control control = releaseScreen(at);
+    actAt(at, ON_RELEASE_TAB);
     if (!cardsAct() && gameState == pressedIn)
-        releaseDialog(at);
+        control = std::max(control, actAt(at, ON_RELEASE_BOX));
+    return control;
 }
 
 static int millisecondsOfGlut()
@@ -298,6 +179,7 @@ int (*mouseClock)() = millisecondsOfGlut;
 struct DoubleClickGuard {
     bool pressed = false; // the button is down
     GameState pressedIn = STATE_LOADING;
+    Control acted = NO_CONTROL; // on the press
     int pressedTime = 0;
     Point changedAt = {-1, -1}; // where a click led to another state, and when it was pressed
     int changedTime = 0;
@@ -315,19 +197,14 @@ static bool isSecondHalf(Point at, int time)
            std::abs(at.y - guard.changedAt.y) <= reach;
 }
 
-// Whether a click that leaves the state as it was may have answered something all the same.
-static bool mayAskAgain(Point at)
+// Whether a click that leaves the state as it was may have answered something all the same, or has
+// brought up another control in the place of its own.
+static bool mayAnswerMore(Point at, Control acted)
 {
-    if (dialogShown())
-        return at.in(dialogOkButton()) || at.in(dialogLeftButton()) || at.in(dialogRightButton());
-    switch (gameState) {
-    case STATE_SKIP_HANDIN:
-        return at.in(handInOkButton());
-    case STATE_COURSE_DESIGN:
-        return at.in(saveCourseButton()) || (at.in(addSectionButton()) && designFinished());
-    default:
+    if (acted == NO_CONTROL)
         return false;
-    }
+    const Control now = controlAt(at.x, at.y, momentOf(acted));
+    return asksOnce(acted) || (now != NO_CONTROL && now != acted);
 }
 
 // "Throw" and "Next" stand in one place and are pressed in turn, as quickly as one likes.
@@ -346,7 +223,7 @@ static void press(Point at)
     if (guard.dropped)
         return;
     guard.changedAt = {-1, -1};
-    pressLeft(at);
+    guard.acted = pressLeft(at);
 }
 
 static void release(Point at)
@@ -354,11 +231,13 @@ static void release(Point at)
     if (!std::exchange(guard.pressed, false)) {
         guard.pressedIn = gameState;
         guard.pressedTime = mouseClock();
+        guard.acted = NO_CONTROL;
     }
     if (guard.dropped)
         return;
-    releaseLeft(at, guard.pressedIn);
-    if ((gameState != guard.pressedIn || mayAskAgain(at)) && !throwsForOrder(guard.pressedIn)) {
+    const Control acted = std::max(guard.acted, releaseLeft(at, guard.pressedIn));
+    if ((gameState != guard.pressedIn || mayAnswerMore(at, acted)) &&
+        !throwsForOrder(guard.pressedIn)) {
         guard.changedAt = at;
         guard.changedTime = guard.pressedTime;
     }
@@ -370,8 +249,9 @@ void onMouse(int button, int buttonState, int x, int y)
     const bool pressed = buttonState == GLUT_DOWN;
     if (button == GLUT_LEFT_BUTTON)
         pressed ? press(at) : release(at);
-    else if (button == GLUT_RIGHT_BUTTON && pressed)
-        pressCamera(GLUT_RIGHT_BUTTON, at);
+    else if (button == GLUT_RIGHT_BUTTON && pressed &&
+             controlAt(at.x, at.y, ON_PRESS_CAMERA) == CONTROL_CAMERA)
+        changeCamera(CAMERA_PREVIOUS);
 }
 
 // Slides along the edges of the drawing area; the two axes are taken one by one.

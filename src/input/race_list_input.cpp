@@ -7,8 +7,6 @@
 #include "play/overlays.h"
 #include "race/race_state.h"
 #include "store/race_file.h"
-#include "ui/access_keys.h"
-#include "ui/controls.h"
 #include "ui/race_list.h"
 
 #include <algorithm>
@@ -43,7 +41,7 @@ static void chooseRace(int entry)
 
 // A race whose file can't be read stays on the list: to go on without its stages would lose them
 // when the next one is written.
-static void continueRace()
+void continueRace()
 {
     if (!raceChosen())
         return;
@@ -53,7 +51,7 @@ static void continueRace()
     goToCourses();
 }
 
-static void openStandings()
+void openStandings()
 {
     if (!raceChosen())
         return;
@@ -61,34 +59,16 @@ static void openStandings()
     openOverlay(STATE_RACE_STANDINGS);
 }
 
-static void turnList(int columns)
+void turnRaceList(int columns)
 {
     raceList.raceListPage += columns;
     redrawNow();
 }
 
-void releaseInRaceFiles(int x, int y)
+bool releaseOnRaceName(int x, int y)
 {
-    if (listOkButton().contains(x, y))
-        continueRace();
-    else if (listScorecardButton().contains(x, y))
-        openStandings();
-    else if (cornerButton().contains(x, y))
-        toMainMenu();
-    else if (const int entry = raceEntryAt(x, y); entry != -1)
+    const int entry = raceEntryAt(x, y);
+    if (entry != -1)
         chooseRace(entry);
-    else if (listPrevButton().contains(x, y) && racesBefore())
-        turnList(-1);
-    else if (listNextButton().contains(x, y) && racesBehind())
-        turnList(1);
-}
-
-void keyInRaceFiles(unsigned char key)
-{
-    if (key == 'o' || key == 'O')
-        continueRace();
-    else if (isAccessKey(CONTROL_SCORECARD, key))
-        openStandings();
-    else if (isAccessKey(CONTROL_COURSE_BACK, key))
-        toMainMenu();
+    return entry != -1;
 }

@@ -5,7 +5,13 @@
 // From the main menu. No race is chosen yet.
 void openRaceFiles();
 
-// A release of the left button, in pixels of the drawing area.
-void releaseInRaceFiles(int x, int y);
+// A release of the left button, in pixels of the drawing area: chooses the race whose name is
+// there. False if there is none.
+bool releaseOnRaceName(int x, int y);
 
-void keyInRaceFiles(unsigned char key);
+// The race chosen, if one is: on to its next stage, or to its score sheet.
+void continueRace();
+void openStandings();
+
+// Turns the list by so many columns.
+void turnRaceList(int columns);

@@ -4,11 +4,8 @@
 #include "app/host.h"
 #include "app/settings.h"
 #include "app/view.h"
-#include "input/keys.h"
 #include "play/overlays.h"
 #include "store/standings_export.h"
-#include "ui/access_keys.h"
-#include "ui/controls.h"
 #include "ui/score_pages.h"
 #include "ui/texts.h"
 
@@ -20,19 +17,19 @@ static void turnTo(int stage)
     redrawNow();
 }
 
-static void turnBack()
+void turnStageBack()
 {
     if (mayTurnBack())
         turnTo(shownStage() - 1);
 }
 
-static void turnOn()
+void turnStageOn()
 {
     if (mayTurnOn())
         turnTo(shownStage() + 1);
 }
 
-static void showGeneral()
+void showGeneral()
 {
     if (!mayShowGeneral())
         return;
@@ -40,7 +37,7 @@ static void showGeneral()
     redrawNow();
 }
 
-static void showLastStage()
+void showLastStage()
 {
     if (!mayShowStage())
         return;
@@ -48,7 +45,7 @@ static void showLastStage()
     turnTo(lastStage());
 }
 
-static void exportSheet()
+void exportSheet()
 {
     exportStandings({.generalAfterStage = texts.generalAfterStage,
                      .standings = texts.standings,
@@ -56,67 +53,23 @@ static void exportSheet()
                      .stage = texts.stage});
 }
 
-// "Quit" behind a stage, "OK" where there is something to go back to.
-static void leaveScorecard()
+void leaveScorecard()
 {
     view.exportStatus = EXPORT_NONE;
     gameState == STATE_FINAL_SCORECARD ? toMainMenu() : closeOverlay();
 }
 
-void releaseInScorecard(int x, int y)
-{
-    if (scorecardOkButton().contains(x, y))
-        leaveScorecard();
-    else if (exportButton().contains(x, y))
-        exportSheet();
-    else if (generalViewButton().contains(x, y))
-        showGeneral();
-    else if (stageViewButton().contains(x, y))
-        showLastStage();
-    else if (prevStageButton().contains(x, y))
-        turnBack();
-    else if (nextStageButton().contains(x, y))
-        turnOn();
-}
-
-// The Dutch word has no letter left: it takes that of "Quit" where there is no such button.
-static bool isGeneralKey(unsigned char key)
+void keyInScorecard(unsigned char key)
 {
     const bool dutch = settings.language == LANGUAGE_DUTCH;
     if (dutch && gameState != STATE_FINAL_SCORECARD && (key == 't' || key == 'T'))
-        return true;
-    return isAccessKey(CONTROL_GENERAL, key);
-}
-
-void keyInScorecard(unsigned char key)
-{
-    const bool final = gameState == STATE_FINAL_SCORECARD;
-    if (final ? isAccessKey(CONTROL_QUIT, key) : isConfirming(key))
-        leaveScorecard();
-    else if (isAccessKey(CONTROL_EXPORT, key))
-        exportSheet();
-    else if (isGeneralKey(key))
         showGeneral();
-    else if (isAccessKey(CONTROL_STAGE, key))
-        showLastStage();
 }
 
 void specialInScorecard(int key)
 {
     if (key == GLUT_KEY_LEFT)
-        turnBack();
+        turnStageBack();
     else if (key == GLUT_KEY_RIGHT)
-        turnOn();
-}
-
-void releaseInPositions(int x, int y)
-{
-    if (positionsOkButton().contains(x, y))
-        closeOverlay();
-}
-
-void keyInPositions(unsigned char key)
-{
-    if (isConfirming(key))
-        closeOverlay();
+        turnStageOn();
 }

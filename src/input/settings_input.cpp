@@ -2,19 +2,18 @@
 
 #include "app/host.h"
 #include "app/settings.h"
-#include "input/keys.h"
 #include "input/text_field.h"
 #include "play/overlays.h"
 #include "store/settings_file.h"
-#include "ui/controls.h"
+#include "ui/keys.h"
 #include "ui/layout.h"
+#include "ui/places.h"
 #include "ui/reshape.h"
 #include "ui/settings_screen.h"
 
 #include <GL/freeglut.h>
 
 #include <cstdlib>
-#include <iterator>
 #include <utility>
 
 static TextField activeField()
@@ -29,10 +28,11 @@ static void activate(int field)
     settingsScreen.settingsCursor = 0;
 }
 
-static void chooseMovement(int smooth)
+void chooseMovement(int smooth)
 {
     settings.smoothMovement = smooth;
     activate(firstOpenSettingsField());
+    redrawNow();
 }
 
 static bool ratioDiffers(double w, double h)
@@ -40,7 +40,7 @@ static bool ratioDiffers(double w, double h)
     return settings.ratioW != w || settings.ratioH != h;
 }
 
-static void chooseRatio(const ScreenRatio& choice)
+void chooseRatio(const ScreenRatio& choice)
 {
     // Who picks what the program had guessed makes it his own choice.
     settingsScreen.guessGivenUp |= std::exchange(ratioChosenByProgram, false);
@@ -49,14 +49,16 @@ static void chooseRatio(const ScreenRatio& choice)
     settings.ratioW = choice.w;
     settings.ratioH = choice.h;
     activate(firstOpenSettingsField());
+    redrawNow();
 }
 
 // Of the settings themselves only the kind of movement changes at once. The ratio stays.
-static void takeDefaults()
+void takeDefaultSettings()
 {
     const Settings defaults;
     settings.smoothMovement = defaults.smoothMovement;
     fillSettingsFields(defaults);
+    redrawNow();
 }
 
 // An empty field counts as 0.
@@ -66,7 +68,7 @@ static int numberIn(int field)
 }
 
 // The file failing to be written is no reason to refuse the settings for this run.
-static void confirmSettings()
+void confirmSettings()
 {
     settings.stepTime = numberIn(FIELD_STEP_TIME);
     settings.stepDistance = static_cast<float>(numberIn(FIELD_STEP_DISTANCE));
@@ -80,7 +82,7 @@ static void confirmSettings()
 }
 
 // Another size of the window meanwhile has been laid out for the ratio that is given up here.
-static void cancelSettings()
+void cancelSettings()
 {
     settings.smoothMovement = settingsBackup.smoothMovement;
     if (!ratioChosenByProgram) {
@@ -96,7 +98,7 @@ static void cancelSettings()
     closeOverlay();
 }
 
-static bool releaseInFields(int x, int y)
+void releaseInSettingsFields(int x, int y)
 {
     for (int field = 0; field < SETTINGS_FIELD_COUNT; ++field) {
         const Rect box = settingsField(field);
@@ -104,37 +106,8 @@ static bool releaseInFields(int x, int y)
             continue;
         activate(field);
         cursorFromClick(activeField(), x, static_cast<int>(box.x), static_cast<int>(box.w));
-        return true;
+        return redrawNow();
     }
-    return false;
-}
-
-static bool releaseInRatios(int x, int y)
-{
-    for (int i = 0; i < std::ssize(SCREEN_RATIOS); ++i) {
-        if (!ratioRadio(i).contains(x, y))
-            continue;
-        chooseRatio(SCREEN_RATIOS[i]);
-        return true;
-    }
-    return false;
-}
-
-void releaseInSettings(int x, int y)
-{
-    if (settingsOkButton().contains(x, y))
-        return confirmSettings();
-    if (settingsCancelButton().contains(x, y))
-        return cancelSettings();
-    if (defaultButton().contains(x, y))
-        takeDefaults();
-    else if (smoothRadio().contains(x, y))
-        chooseMovement(1);
-    else if (stepwiseRadio().contains(x, y))
-        chooseMovement(0);
-    else if (!releaseInRatios(x, y) && !releaseInFields(x, y))
-        return;
-    redrawNow();
 }
 
 // The next field that is open, from the last one to the first; backward the one before.

@@ -1,12 +1,10 @@
 #include "input/setup_input.h"
 
 #include "app/host.h"
-#include "input/actions.h"
-#include "input/keys.h"
 #include "input/text_field.h"
-#include "play/overlays.h"
 #include "race/race_state.h"
-#include "ui/controls.h"
+#include "ui/keys.h"
+#include "ui/places.h"
 #include "ui/team_setup.h"
 
 #include <GL/freeglut.h>
@@ -38,59 +36,40 @@ static void clickField(int field, int x, const Rect& box)
     cursorFromClick(activeField(), x, static_cast<int>(box.x), static_cast<int>(box.w));
 }
 
-static void changePlayer(int team)
+void changePlayer(int team)
 {
     for (int place = 0; place < RIDERS_PER_TEAM; ++place) {
         auto& isHuman = race.riders[team * RIDERS_PER_TEAM + place].isHuman;
         isHuman = isHuman ? 0 : 1;
     }
+    redrawNow();
 }
 
-static void chooseStages(bool several)
+void chooseStages(bool several)
 {
     raceSetup.multiStage = several;
     if (!several && teamSetup.teamActiveField == RACE_NAME_FIELD)
         activate(RACE_NAME_FIELD - 1);
+    redrawNow();
 }
 
-static bool releaseInTeamRows(int x, int y)
+void toggleEventCards()
 {
-    for (int team = 0; team < TEAM_COUNT; ++team) {
-        if (teamNameBox(team).contains(x, y)) {
-            clickField(team, x, teamNameBox(team));
-            return true;
-        }
-        if (teamComputerBox(team).contains(x, y)) {
-            changePlayer(team);
-            return true;
-        }
+    raceSetup.eventCardsOn = !raceSetup.eventCardsOn;
+    redrawNow();
+}
+
+bool releaseInNameFields(int x, int y)
+{
+    for (int field = 0; field < fieldCount(); ++field) {
+        const Rect box = field == RACE_NAME_FIELD ? raceNameBox() : teamNameBox(field);
+        if (!box.contains(x, y))
+            continue;
+        clickField(field, x, box);
+        redrawNow();
+        return true;
     }
     return false;
-}
-
-static bool releaseInRaceOptions(int x, int y)
-{
-    if (raceSetup.multiStage && raceNameBox().contains(x, y))
-        clickField(RACE_NAME_FIELD, x, raceNameBox());
-    else if (multiStageRadio().contains(x, y))
-        chooseStages(true);
-    else if (singleStageRadio().contains(x, y))
-        chooseStages(false);
-    else if (eventCardsBox().contains(x, y))
-        raceSetup.eventCardsOn = !raceSetup.eventCardsOn;
-    else
-        return false;
-    return true;
-}
-
-void releaseInTeamSetup(int x, int y)
-{
-    if (teamOkButton().contains(x, y))
-        confirmTeamSetup();
-    else if (cornerButton().contains(x, y))
-        toMainMenu();
-    else if (releaseInTeamRows(x, y) || releaseInRaceOptions(x, y))
-        redrawNow();
 }
 
 // Letters of the West European alphabets, as team names hold them.

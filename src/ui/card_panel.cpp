@@ -9,6 +9,7 @@
 #include "race/rider_place.h"
 #include "ui/controls.h"
 #include "ui/layout.h"
+#include "ui/places.h"
 #include "ui/strength_cards.h"
 #include "ui/text.h"
 #include "ui/widgets.h"
@@ -89,12 +90,12 @@ static Colour tabColour(int team, bool selected)
 static void drawTabs()
 {
     for (int team = 0; team < TEAM_COUNT; ++team) {
-        const Rect tab = teamTab(team);
+        const Rect tab = placeOf(static_cast<Control>(CONTROL_TAB_1 + team));
         setColour(tabColour(team, team == view.shownTeam));
         fillRect(tab.x, tab.y, tab.w, tab.h);
     }
     for (int team = 0; team < TEAM_COUNT; ++team) {
-        const Rect tab = teamTab(team);
+        const Rect tab = placeOf(static_cast<Control>(CONTROL_TAB_1 + team));
         setColour(team == view.shownTeam ? WHITE : disabledGrey);
         drawText(tab.x + tab.w * 0.5f, tab.y + tab.h * 0.6f, ALIGN_CENTRE, raceSetup.teamName[team],
                  FONT_TITLE);

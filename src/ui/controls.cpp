@@ -1,78 +1,76 @@
 #include "ui/controls.h"
 
+#include "app/settings.h"
+#include "app/table.h"
+#include "board/course.h"
+#include "board/designer.h"
+#include "play/doping.h"
+#include "race/race_state.h"
+#include "ui/keys.h"
 #include "ui/layout.h"
+#include "ui/manual_pages.h"
+#include "ui/places.h"
+#include "ui/race_list.h"
+#include "ui/score_pages.h"
+#include "ui/texts.h"
+#include "ui/widgets.h"
 
-// Labels keep their pixel size on any window; this is room for the longest of them.
-constexpr float LABEL_ROOM = 150.0f;
+#include <string>
 
-static Rect checkBoxArea(float x, float y, float size)
+namespace
 {
-    return {x, y, aspectFix() * size + LABEL_ROOM, size};
+
+using L = Layout;
+
+// A button from four metrics, or what is worked out otherwise.
+struct Place {
+    float Layout::*x = nullptr;
+    float Layout::*y = nullptr;
+    float Layout::*w = nullptr;
+    float Layout::*h = nullptr;
+    Rect (*workedOut)() = nullptr;
+};
+
+// A text of the current language, or one of all of them.
+struct Label {
+    std::string Texts::*text = nullptr;
+    std::string_view fixed = {};
+};
+
+enum Traits : unsigned {
+    CONFIRMS = 1, // Enter, Space and O press it
+    ONCE = 2,     // another question like it may come in its place
+};
+
+struct Row {
+    Control control;
+    Place place;
+    Label label;
+    Table<int, LANGUAGE_COUNT>
+        letter; // the place in the label of the letter that presses it, or -1
+    StateSet states;
+    Moment moment;
+    unsigned traits = 0;
+    bool (*open)() = nullptr; // what else it takes to act
+};
+
+constexpr Place at(Rect (*workedOut)())
+{
+    return {.workedOut = workedOut};
 }
 
-// (x, y) is the centre of the circle, height its diameter.
-static Rect radioArea(float x, float y, float height, float right)
-{
-    const float left = x - aspectFix() * height * 0.5f;
-    return {left, y - height * 0.5f, right - left, height};
-}
-
-static float settingsRight()
-{
-    return layout.movementFrameX + layout.settingsFrameW;
-}
-
-static float indexed(int i)
-{
-    return static_cast<float>(i);
-}
-
-// clang-format off
-
-Rect cornerButton()      { return {layout.cornerButtonX, layout.cornerButtonY, layout.buttonW, layout.buttonH}; }
-Rect dialogBox()         { return {layout.dialogX, layout.dialogY, layout.dialogW, layout.dialogH}; }
-Rect dialogTitleBar()    { return {layout.dialogX, layout.dialogY - layout.titleBarH, layout.dialogW, layout.titleBarH}; }
-Rect dialogOkButton()    { return {layout.dialogOkX, layout.dialogButtonY, layout.buttonW, layout.buttonH}; }
-Rect dialogLeftButton()  { return {layout.dialogLeftX, layout.dialogButtonY, layout.buttonW, layout.buttonH}; }
-Rect dialogRightButton() { return {layout.dialogRightX, layout.dialogButtonY, layout.buttonW, layout.buttonH}; }
-
-Rect viewToggle()      { return {layout.viewToggleX, layout.hudY, layout.buttonH, layout.buttonH}; }
-Rect cameraButton()    { return {layout.cameraButtonX, layout.hudY, layout.buttonH, layout.buttonH}; }
-Rect scorecardButton() { return {layout.sideButtonX, layout.scorecardButtonY, layout.sideButtonW, layout.buttonH}; }
-Rect positionsButton() { return {layout.sideButtonX, layout.positionsButtonY, layout.sideButtonW, layout.buttonH}; }
-Rect dopingButton()    { return {layout.sideButtonX, layout.dopingButtonY, layout.sideButtonW, layout.buttonH}; }
-Rect settingsButton()  { return {layout.sideButtonX, layout.settingsButtonY, layout.sideButtonW, layout.buttonH}; }
-Rect quitButton()      { return {layout.cornerButtonX, layout.cornerButtonY, layout.sideButtonW, layout.buttonH}; }
-
-Rect cardPanel()        { return {layout.cardPanelX, layout.hudY, layout.cardPanelW, layout.cardPanelH}; }
-Rect throwButton()      { return {layout.diceX, layout.throwButtonY, layout.cardH, layout.throwButtonH}; }
-Rect handInOkButton()   { return {layout.diceX, layout.handInOkY, layout.cardH, layout.throwButtonH}; }
-Rect extraCardSlot()    { return {layout.eventSlotX, layout.hudY, layout.cardW, layout.cardH}; }
-Rect extraDicePlace()   { return {layout.hudCol3X, layout.hudY, layout.cardH, layout.cardH}; }
-Rect extraThrowButton() { return {layout.hudCol3X, layout.extraThrowY, layout.cardH, layout.throwButtonH}; }
-
-// clang-format on
-
-// Columns of two cards each, upper before lower.
-Rect cardPlace(int slot)
-{
-    const float column = indexed(slot / 2);
-    const float row = indexed(slot % 2);
-    return {layout.cardPanelX + layout.cardGapX + column * (layout.cardW + layout.cardGapX),
-            layout.hudY + layout.cardGapY + row * (layout.cardH + layout.cardGapY), layout.cardW,
-            layout.cardH};
-}
-
-Rect teamTab(int team)
+template <int team> Rect teamTab()
 {
     const float w = layout.cardPanelW * 0.25f;
-    return {layout.cardPanelX + indexed(team) * w, layout.teamTabsY, w, layout.teamTabsH};
+    return {layout.cardPanelX + static_cast<float>(team) * w, layout.teamTabsY, w,
+            layout.teamTabsH};
 }
 
-Rect dicePlace(int die)
+template <int team> Rect computerBox()
 {
-    return {layout.diceX + indexed(die) * (layout.cardH + layout.cardGapX), layout.hudY,
-            layout.cardH, layout.cardH};
+    return checkBoxArea(layout.teamCheckX,
+                        layout.teamNameY + static_cast<float>(team) * layout.teamRowStep,
+                        layout.teamCheckSize);
 }
 
 // Reaches as far as the column of the extra die, whose button stands beside the label.
@@ -82,200 +80,292 @@ Rect breakawayBox()
             layout.breakawaySize};
 }
 
-Rect handInSlot(int slot)
+template <float Layout::*x, float Layout::*y, float Layout::*size> Rect checkBox()
 {
-    return {layout.diceX + indexed(slot) * (layout.cardW + layout.cardGapX), layout.handInY,
-            layout.cardW, layout.cardH};
+    return checkBoxArea(layout.*x, layout.*y, layout.*size);
 }
 
-static Rect menuButton(float y)
+template <float Layout::*y> Rect stageRadio()
 {
-    return {layout.menuButtonX, y, layout.menuButtonW, layout.menuButtonH};
-}
-
-// clang-format off
-
-Rect menuLanguageButton() { return menuButton(layout.menuLanguageY); }
-Rect menuManualButton()   { return menuButton(layout.menuManualY); }
-Rect menuSettingsButton() { return menuButton(layout.menuSettingsY); }
-Rect menuContinueButton() { return menuButton(layout.menuContinueY); }
-Rect menuStartButton()    { return menuButton(layout.menuStartY); }
-Rect exitButton()         { return cornerButton(); }
-
-Rect manualFrame()    { return {layout.manualX, layout.manualY, layout.manualW, layout.manualH}; }
-Rect manualOkButton() { return cornerButton(); }
-Rect prevPageButton() { return {layout.prevPageX, layout.cornerButtonY, layout.pageButtonW, layout.buttonH}; }
-Rect nextPageButton() { return {layout.nextPageX, layout.cornerButtonY, layout.pageButtonW, layout.buttonH}; }
-
-// clang-format on
-
-Rect languageBox(int language)
-{
-    return {layout.languageBoxX,
-            layout.languageBoxY + indexed(language) * (layout.languageBoxH + layout.languageBoxGap),
-            layout.languageBoxW, layout.languageBoxH};
-}
-
-Rect teamNameBox(int team)
-{
-    return {layout.teamNameX, layout.teamNameY + indexed(team) * layout.teamRowStep,
-            layout.teamNameW, layout.teamNameH};
-}
-
-Rect teamComputerBox(int team)
-{
-    return checkBoxArea(layout.teamCheckX, layout.teamNameY + indexed(team) * layout.teamRowStep,
-                        layout.teamCheckSize);
-}
-
-static Rect stageRadio(float y)
-{
-    return radioArea(layout.stageRadioX, y, layout.stageRowH,
+    return radioArea(layout.stageRadioX, layout.*y, layout.stageRowH,
                      layout.stageRadioX + layout.stageRowH + LABEL_ROOM);
 }
 
-Rect multiStageRadio()
+template <float Layout::*x, float Layout::*y, float Layout::*frameX> Rect settingsRadio()
 {
-    return stageRadio(layout.multiStageY);
+    return radioArea(layout.*x, layout.*y, layout.settingsRowH,
+                     layout.*frameX + layout.settingsFrameW);
 }
 
-Rect singleStageRadio()
+template <float Layout::*y> Rect ratioRadio()
 {
-    return stageRadio(layout.singleStageY);
+    return settingsRadio<&L::ratioRadioX, y, &L::ratioFrameX>();
 }
 
-Rect raceNameBox()
+template <float Layout::*y> Rect movementRadio()
 {
-    return {layout.raceNameX, layout.multiStageY + layout.stageRowH * 0.5f, layout.raceNameW,
-            layout.stageRowH};
+    return settingsRadio<&L::movementRadioX, y, &L::movementFrameX>();
 }
 
-Rect eventCardsBox()
+bool cardLaid()
 {
-    return checkBoxArea(layout.eventCheckX, layout.eventCheckY, layout.teamCheckSize);
+    return race.playedCards[0] != -1 || race.playedCards[1] != -1;
 }
+
+bool handInComplete()
+{
+    return gameState == STATE_SKIP_HANDIN || race.handInCards[0] != -1;
+}
+
+bool designOpen()
+{
+    return !designFinished();
+}
+
+bool courseShown()
+{
+    return !courseText.empty();
+}
+
+bool pagesBefore()
+{
+    return manualPage > 0;
+}
+
+bool pagesBehind()
+{
+    return manualPage + 1 < manualPageCount;
+}
+
+constexpr Label OK = {.fixed = "OK"};
+constexpr Label LESS = {.fixed = "<"};
+constexpr Label MORE = {.fixed = ">"};
+constexpr Table<int, LANGUAGE_COUNT> FIRST = {0, 0, 0, 0};
+constexpr Table<int, LANGUAGE_COUNT> NONE = {-1, -1, -1, -1};
 
 // clang-format off
+constexpr Place CORNER =         {&L::cornerButtonX, &L::cornerButtonY,          &L::buttonW, &L::buttonH};
+constexpr Place DIALOG_OK =      {&L::dialogOkX,     &L::dialogButtonY,          &L::buttonW, &L::buttonH};
+constexpr Place DIALOG_LEFT =    {&L::dialogLeftX,   &L::dialogButtonY,          &L::buttonW, &L::buttonH};
+constexpr Place DIALOG_RIGHT =   {&L::dialogRightX,  &L::dialogButtonY,          &L::buttonW, &L::buttonH};
+constexpr Place SHEET_LEAVE =    {&L::scorecardOkX,  &L::scorecardBottomButtonY, &L::buttonW, &L::buttonH};
+constexpr Place DICE_BUTTON =    {&L::diceX,         &L::throwButtonY,           &L::cardH,   &L::throwButtonH};
+constexpr Place DESIGN_MIDDLE =  {&L::addButtonX,    &L::designButtonY,          &L::designButtonW, &L::buttonH};
 
-Rect teamOkButton()      { return {layout.teamOkX, layout.teamOkY, layout.buttonW, layout.buttonH}; }
-Rect savedCourseButton() { return {layout.savedCourseButtonX, layout.courseButtonY, layout.courseButtonW, layout.buttonH}; }
-Rect newCourseButton()   { return {layout.newCourseButtonX, layout.courseButtonY, layout.courseButtonW, layout.buttonH}; }
+constexpr StateSet SETUP = in(STATE_TEAM_SETUP);
+constexpr StateSet DESIGN = in(STATE_COURSE_DESIGN);
+constexpr StateSet LIST = in(STATE_RACE_FILES);
+constexpr StateSet MENU = in(STATE_MAIN_MENU);
 
+// Of two live controls in one place, or with one letter, the upper one counts.
+constexpr Table<Row, CONTROL_COUNT> rows = {{
+// control                 place                                                                               label                         letter: de en fr nl  acts in               when
+{CONTROL_THROW,            DICE_BUTTON,                                                                        {&Texts::throwDice},          FIRST,               in(STATE_TURN),         ON_PRESS},
+{CONTROL_ORDER_THROW,      DICE_BUTTON,                                                                        {&Texts::throwDice},          FIRST,               in(STATE_ORDER_THROW),  ON_RELEASE},
+{CONTROL_NEXT,             DICE_BUTTON,                                                                        {&Texts::next},               {0, 0, 1, 0},        in(STATE_ORDER_RESULT), ON_RELEASE},
+{CONTROL_EXTRA_THROW,      {&L::hudCol3X, &L::extraThrowY, &L::cardH, &L::throwButtonH},                       {&Texts::throwDice},          FIRST,               in(STATE_EVENT_DIE),    ON_PRESS},
+{CONTROL_BREAKAWAY,        at(breakawayBox),                                                                   {&Texts::breakaway},          FIRST,               in(STATE_TURN),         ON_PRESS, 0, cardLaid},
+{CONTROL_DOPING,           {&L::sideButtonX, &L::dopingButtonY, &L::sideButtonW, &L::buttonH},                 {&Texts::doping},             {0, 0, 1, 1},        in(STATE_TURN),         ON_PRESS, 0, mayDope},
+{CONTROL_HAND_IN,          {&L::diceX, &L::handInOkY, &L::cardH, &L::throwButtonH},                            OK,                           FIRST,               in(STATE_SKIP_HANDIN, STATE_EVENT_HANDIN), ON_PRESS_HAND_IN, CONFIRMS | ONCE, handInComplete},
+{CONTROL_TAB_1,            at(teamTab<0>),                                                                     {},                           NONE,                TEAM_TAB_STATES,        ON_RELEASE_TAB},
+{CONTROL_TAB_2,            at(teamTab<1>),                                                                     {},                           NONE,                TEAM_TAB_STATES,        ON_RELEASE_TAB},
+{CONTROL_TAB_3,            at(teamTab<2>),                                                                     {},                           NONE,                TEAM_TAB_STATES,        ON_RELEASE_TAB},
+{CONTROL_TAB_4,            at(teamTab<3>),                                                                     {},                           NONE,                TEAM_TAB_STATES,        ON_RELEASE_TAB},
+{CONTROL_QUIT,             {&L::cornerButtonX, &L::cornerButtonY, &L::sideButtonW, &L::buttonH},               {&Texts::quit},               {1, 0, 0, 1},        RACE_PANEL_STATES,      ON_PRESS_PANEL},
+{CONTROL_SCORECARD,        {&L::sideButtonX, &L::scorecardButtonY, &L::sideButtonW, &L::buttonH},              {&Texts::scorecard},          FIRST,               RACE_PANEL_STATES,      ON_PRESS_PANEL},
+{CONTROL_POSITIONS,        {&L::sideButtonX, &L::positionsButtonY, &L::sideButtonW, &L::buttonH},              {&Texts::positions},          FIRST,               RACE_PANEL_STATES,      ON_PRESS_PANEL},
+{CONTROL_RACE_SETTINGS,    {&L::sideButtonX, &L::settingsButtonY, &L::sideButtonW, &L::buttonH},               {&Texts::settings},           {0, 1, 1, 0},        RACE_PANEL_STATES,      ON_PRESS_PANEL},
+{CONTROL_VIEW,             {&L::viewToggleX, &L::hudY, &L::buttonH, &L::buttonH},                              {},                           NONE,                CAMERA_STATES,          ON_PRESS_CAMERA},
+{CONTROL_CAMERA,           {&L::cameraButtonX, &L::hudY, &L::buttonH, &L::buttonH},                            {},                           NONE,                CAMERA_STATES,          ON_PRESS_CAMERA},
+
+{CONTROL_FOLLOW_YES,       DIALOG_LEFT,                                                                        {&Texts::yes},                FIRST,               in(STATE_FOLLOW_PROMPT),       ON_RELEASE_BOX, ONCE},
+{CONTROL_FOLLOW_NO,        DIALOG_RIGHT,                                                                       {&Texts::no},                 FIRST,               in(STATE_FOLLOW_PROMPT),       ON_RELEASE_BOX, ONCE},
+{CONTROL_QUIT_YES,         DIALOG_LEFT,                                                                        {&Texts::yes},                FIRST,               in(STATE_CONFIRM_QUIT),        ON_RELEASE_BOX, ONCE},
+{CONTROL_QUIT_NO,          DIALOG_RIGHT,                                                                       {&Texts::no},                 FIRST,               in(STATE_CONFIRM_QUIT),        ON_RELEASE_BOX, ONCE},
+{CONTROL_DOPING_YES,       DIALOG_LEFT,                                                                        {&Texts::yes},                FIRST,               in(STATE_CONFIRM_DOPING),      ON_RELEASE_BOX, ONCE},
+{CONTROL_DOPING_NO,        DIALOG_RIGHT,                                                                       {&Texts::no},                 FIRST,               in(STATE_CONFIRM_DOPING),      ON_RELEASE_BOX, ONCE},
+{CONTROL_BLUE,             DIALOG_LEFT,                                                                        {&Texts::blue},               {0, 0, 2, 0},        in(STATE_EVENT_CARD_KIND),     ON_RELEASE_BOX, ONCE},
+{CONTROL_WHITE,            DIALOG_RIGHT,                                                                       {&Texts::white},              {0, 0, 2, 0},        in(STATE_EVENT_CARD_KIND),     ON_RELEASE_BOX, ONCE},
+{CONTROL_IMMEDIATELY,      DIALOG_LEFT,                                                                        {&Texts::immediately},        {-1, 0, 0, 0},       in(STATE_EVENT_CARD_WHEN),     ON_RELEASE_BOX, ONCE},
+{CONTROL_LATER,            DIALOG_RIGHT,                                                                       {&Texts::later},              {-1, 0, 0, 0},       in(STATE_EVENT_CARD_WHEN),     ON_RELEASE_BOX, ONCE},
+{CONTROL_RETRY,            DIALOG_LEFT,                                                                        {&Texts::retry},              FIRST,               in(STATE_SAVE_FAILED),         ON_RELEASE_BOX, ONCE},
+{CONTROL_ABORT,            DIALOG_RIGHT,                                                                       {&Texts::abort},              FIRST,               in(STATE_SAVE_FAILED),         ON_RELEASE_BOX, ONCE},
+{CONTROL_EVENT_OK,         DIALOG_OK,                                                                          OK,                           FIRST,               in(STATE_EVENT_CARD),          ON_RELEASE_BOX, CONFIRMS | ONCE},
+{CONTROL_NO_EVENT_OK,      DIALOG_OK,                                                                          OK,                           FIRST,               in(STATE_EVENT_NO_CARD),       ON_RELEASE_BOX, CONFIRMS | ONCE},
+{CONTROL_NO_MOVE_OK,       DIALOG_OK,                                                                          OK,                           FIRST,               in(STATE_NO_MOVE),             ON_RELEASE_BOX, CONFIRMS | ONCE},
+{CONTROL_NO_CARD_OK,       DIALOG_OK,                                                                          OK,                           FIRST,               in(STATE_SKIP_NO_CARD),        ON_RELEASE_BOX, CONFIRMS | ONCE},
+{CONTROL_DOPING_NUMBER_OK, DIALOG_OK,                                                                          OK,                           FIRST,               in(STATE_DOPING_NUMBER),       ON_RELEASE_BOX, CONFIRMS | ONCE},
+{CONTROL_DOPING_DRAW_OK,   DIALOG_OK,                                                                          OK,                           FIRST,               in(STATE_DOPING_DRAW),         ON_RELEASE_BOX, CONFIRMS | ONCE},
+{CONTROL_COUNTERCHECK_OK,  DIALOG_OK,                                                                          OK,                           FIRST,               in(STATE_DOPING_COUNTERCHECK), ON_RELEASE_BOX, CONFIRMS | ONCE},
+{CONTROL_SETUP_MESSAGE_OK, DIALOG_OK,                                                                          OK,                           FIRST,               in(STATE_SETUP_MESSAGE),       ON_RELEASE_BOX, CONFIRMS | ONCE},
+
+{CONTROL_SHEET_OK,         SHEET_LEAVE,                                                                        OK,                           FIRST,               in(STATE_SCORECARD, STATE_RACE_STANDINGS), ON_RELEASE_BOX, CONFIRMS},
+{CONTROL_SHEET_QUIT,       SHEET_LEAVE,                                                                        {&Texts::quit},               {1, 0, 0, 1},        in(STATE_FINAL_SCORECARD), ON_RELEASE_BOX},
+{CONTROL_EXPORT,           {&L::exportButtonX, &L::scorecardBottomButtonY, &L::exportButtonW, &L::buttonH},    {&Texts::exportButton},       {1, 1, 1, 1},        SCORECARD_STATES,       ON_RELEASE_BOX},
+{CONTROL_GENERAL,          {&L::generalViewButtonX, &L::scorecardBottomButtonY, &L::stageViewButtonW, &L::buttonH}, {&Texts::general},       {0, 0, 0, -1},       SCORECARD_STATES,       ON_RELEASE_BOX, 0, mayShowGeneral},
+{CONTROL_STAGE,            {&L::stageViewButtonX, &L::scorecardBottomButtonY, &L::stageViewButtonW, &L::buttonH}, {&Texts::stageTab},        {0, 0, 4, 0},        SCORECARD_STATES,       ON_RELEASE_BOX, 0, mayShowStage},
+{CONTROL_PREVIOUS_STAGE,   {&L::prevStageX, &L::stageArrowY, &L::stageArrowW, &L::buttonH},                    LESS,                         NONE,                SCORECARD_STATES,       ON_RELEASE_BOX, 0, mayTurnBack},
+{CONTROL_NEXT_STAGE,       {&L::nextStageX, &L::stageArrowY, &L::stageArrowW, &L::buttonH},                    MORE,                         NONE,                SCORECARD_STATES,       ON_RELEASE_BOX, 0, mayTurnOn},
+{CONTROL_POSITIONS_OK,     CORNER,                                                                             OK,                           FIRST,               in(STATE_POSITIONS),    ON_RELEASE_BOX, CONFIRMS},
+
+{CONTROL_START,            {&L::menuButtonX, &L::menuStartY, &L::menuButtonW, &L::menuButtonH},                {&Texts::start},              FIRST,               MENU,                   ON_RELEASE},
+{CONTROL_MANUAL,           {&L::menuButtonX, &L::menuManualY, &L::menuButtonW, &L::menuButtonH},               {&Texts::manualButton},       FIRST,               MENU,                   ON_RELEASE},
+{CONTROL_MENU_SETTINGS,    {&L::menuButtonX, &L::menuSettingsY, &L::menuButtonW, &L::menuButtonH},             {&Texts::settings},           {0, 2, 0, 0},        MENU,                   ON_RELEASE},
+{CONTROL_LANGUAGE,         {&L::menuButtonX, &L::menuLanguageY, &L::menuButtonW, &L::menuButtonH},             {&Texts::languageSelection},  {1, 0, 1, 0},        MENU,                   ON_RELEASE},
+{CONTROL_CONTINUE,         {&L::menuButtonX, &L::menuContinueY, &L::menuButtonW, &L::menuButtonH},             {&Texts::continueRace},       {0, 0, 3, 0},        MENU,                   ON_RELEASE},
+{CONTROL_EXIT,             CORNER,                                                                             {&Texts::exit},               FIRST,               MENU,                   ON_RELEASE},
+{CONTROL_MANUAL_OK,        CORNER,                                                                             OK,                           FIRST,               in(STATE_MANUAL),       ON_RELEASE},
+{CONTROL_PREVIOUS_PAGE,    {&L::prevPageX, &L::cornerButtonY, &L::pageButtonW, &L::buttonH},                   {&Texts::previousPage},       NONE,                in(STATE_MANUAL),       ON_RELEASE, 0, pagesBefore},
+{CONTROL_NEXT_PAGE,        {&L::nextPageX, &L::cornerButtonY, &L::pageButtonW, &L::buttonH},                   {&Texts::nextPage},           NONE,                in(STATE_MANUAL),       ON_RELEASE, 0, pagesBehind},
+
+{CONTROL_TEAM_OK,          {&L::teamOkX, &L::teamOkY, &L::buttonW, &L::buttonH},                               OK,                           NONE,                SETUP,                  ON_RELEASE},
+{CONTROL_TEAM_BACK,        CORNER,                                                                             {&Texts::teamBack},           NONE,                SETUP,                  ON_RELEASE},
+{CONTROL_COMPUTER_1,       at(computerBox<0>),                                                                 {&Texts::computerPlayer},     NONE,                SETUP,                  ON_RELEASE},
+{CONTROL_COMPUTER_2,       at(computerBox<1>),                                                                 {&Texts::computerPlayer},     NONE,                SETUP,                  ON_RELEASE},
+{CONTROL_COMPUTER_3,       at(computerBox<2>),                                                                 {&Texts::computerPlayer},     NONE,                SETUP,                  ON_RELEASE},
+{CONTROL_COMPUTER_4,       at(computerBox<3>),                                                                 {&Texts::computerPlayer},     NONE,                SETUP,                  ON_RELEASE},
+{CONTROL_MULTI_STAGE,      at(stageRadio<&L::multiStageY>),                                                    {&Texts::multipleStages},     NONE,                SETUP,                  ON_RELEASE},
+{CONTROL_SINGLE_STAGE,     at(stageRadio<&L::singleStageY>),                                                   {&Texts::singleStage},        NONE,                SETUP,                  ON_RELEASE},
+{CONTROL_EVENT_CARDS,      at(checkBox<&L::eventCheckX, &L::eventCheckY, &L::teamCheckSize>),                  {&Texts::enableEventCards},   NONE,                SETUP,                  ON_RELEASE},
+
+{CONTROL_CREATE_COURSE,    {&L::newCourseButtonX, &L::courseButtonY, &L::courseButtonW, &L::buttonH},          {&Texts::createNewCourse},    FIRST,               in(STATE_COURSE_SELECT), ON_RELEASE},
+{CONTROL_SAVED_COURSE,     {&L::savedCourseButtonX, &L::courseButtonY, &L::courseButtonW, &L::buttonH},        {&Texts::useSavedCourse},     FIRST,               in(STATE_COURSE_SELECT), ON_RELEASE},
+{CONTROL_COURSE_BACK,      CORNER,                                                                             {&Texts::courseBack},         FIRST,               in(STATE_COURSE_SELECT), ON_RELEASE},
+{CONTROL_ADD_SECTION,      DESIGN_MIDDLE,                                                                      {&Texts::addSection},         FIRST,               DESIGN,                 ON_RELEASE, 0, designOpen},
+{CONTROL_DESIGN_OK,        DESIGN_MIDDLE,                                                                      OK,                           FIRST,               DESIGN,                 ON_RELEASE, CONFIRMS, designFinished},
+{CONTROL_PREVIOUS_SECTION, {&L::prevSectionButtonX, &L::designButtonY, &L::designButtonW, &L::buttonH},        {&Texts::previousSection},    FIRST,               DESIGN,                 ON_RELEASE},
+{CONTROL_SAVE_COURSE,      {&L::saveCourseButtonX, &L::designButtonY, &L::designButtonW, &L::buttonH},         {&Texts::saveCourse},         NONE,                DESIGN,                 ON_RELEASE, ONCE, designFinished},
+{CONTROL_DESIGN_BACK,      CORNER,                                                                             {&Texts::courseBack},         NONE,                DESIGN,                 ON_RELEASE},
+{CONTROL_SPRINT,           at(checkBox<&L::sprintCheckX, &L::sprintCheckY, &L::designCheckSize>),              {&Texts::sprint},             NONE,                DESIGN,                 ON_RELEASE, 0, sprintChoosable},
+{CONTROL_FINISH,           at(checkBox<&L::finishCheckX, &L::finishCheckY, &L::designCheckSize>),              {&Texts::finish},             NONE,                DESIGN,                 ON_RELEASE, 0, finishChoosable},
+{CONTROL_PREVIOUS_COURSE,  {&L::prevCourseButtonX, &L::savedButtonY, &L::savedButtonW, &L::buttonH},           {&Texts::previousCourse},     NONE,                in(STATE_COURSE_SAVED), ON_RELEASE},
+{CONTROL_NEXT_COURSE,      {&L::nextCourseButtonX, &L::savedButtonY, &L::savedButtonW, &L::buttonH},           {&Texts::nextCourse},         NONE,                in(STATE_COURSE_SAVED), ON_RELEASE},
+{CONTROL_SAVED_BACK,       {&L::cornerButtonX, &L::cornerButtonY, &L::savedButtonW, &L::buttonH},              {&Texts::savedBack},          NONE,                in(STATE_COURSE_SAVED), ON_RELEASE},
+{CONTROL_SAVED_OK,         {&L::savedOkX, &L::savedButtonY, &L::buttonW, &L::buttonH},                         OK,                           NONE,                in(STATE_COURSE_SAVED), ON_RELEASE, 0, courseShown},
+
+{CONTROL_SETTINGS_OK,      {&L::settingsOkX, &L::settingsOkY, &L::buttonW, &L::buttonH},                       OK,                           NONE,                in(STATE_SETTINGS),     ON_RELEASE},
+{CONTROL_SETTINGS_CANCEL,  {&L::settingsCancelX, &L::settingsOkY, &L::buttonW, &L::buttonH},                   {&Texts::cancel},             NONE,                in(STATE_SETTINGS),     ON_RELEASE},
+{CONTROL_DEFAULT,          {&L::defaultButtonX, &L::defaultButtonY, &L::defaultButtonW, &L::buttonH},          {&Texts::defaultValues},      NONE,                in(STATE_SETTINGS),     ON_RELEASE},
+{CONTROL_SMOOTH,           at(movementRadio<&L::smoothRadioY>),                                                {&Texts::smoothMovement},     NONE,                in(STATE_SETTINGS),     ON_RELEASE},
+{CONTROL_STEPWISE,         at(movementRadio<&L::stepwiseRadioY>),                                              {&Texts::stepwiseMovement},   NONE,                in(STATE_SETTINGS),     ON_RELEASE},
+{CONTROL_RATIO_54,         at(ratioRadio<&L::ratio54Y>),                                                       {&Texts::ratio54},            NONE,                in(STATE_SETTINGS),     ON_RELEASE},
+{CONTROL_RATIO_43,         at(ratioRadio<&L::ratio43Y>),                                                       {&Texts::ratio43},            NONE,                in(STATE_SETTINGS),     ON_RELEASE},
+{CONTROL_RATIO_1610,       at(ratioRadio<&L::ratio1610Y>),                                                     {&Texts::ratio1610},          NONE,                in(STATE_SETTINGS),     ON_RELEASE},
+
+{CONTROL_LIST_OK,          {&L::listOkX, &L::listButtonY, &L::buttonW, &L::buttonH},                           OK,                           FIRST,               LIST,                   ON_RELEASE, 0, raceChosen},
+{CONTROL_LIST_SCORECARD,   {&L::listScorecardX, &L::listButtonY, &L::buttonW, &L::buttonH},                    {&Texts::scorecard},          FIRST,               LIST,                   ON_RELEASE, 0, raceChosen},
+{CONTROL_LIST_BACK,        CORNER,                                                                             {&Texts::courseBack},         FIRST,               LIST,                   ON_RELEASE},
+{CONTROL_LIST_PREVIOUS,    {&L::listPrevX, &L::listArrowY, &L::buttonW, &L::buttonH},                          LESS,                         NONE,                LIST,                   ON_RELEASE, 0, racesBefore},
+{CONTROL_LIST_NEXT,        {&L::listNextX, &L::listArrowY, &L::buttonW, &L::buttonH},                          MORE,                         NONE,                LIST,                   ON_RELEASE, 0, racesBehind},
+}};
 // clang-format on
 
-// Two pictures in a row.
-Rect coursePicture(int course)
+constexpr bool eachInItsPlace()
 {
-    const float column = indexed(course % 2);
-    const float row = indexed(course / 2);
-    return {layout.coursePicX + column * (layout.coursePicW + layout.coursePicGapX),
-            layout.coursePicY + row * (layout.coursePicH + layout.coursePicGapY), layout.coursePicW,
-            layout.coursePicH};
+    for (int i = 0; i < CONTROL_COUNT; ++i)
+        if (rows[i].control != i)
+            return false;
+    return true;
+}
+static_assert(eachInItsPlace(), "a control has no row, or the rows are in another order");
+
+char lowerCase(char character)
+{
+    return character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a')
+                                                : character;
 }
 
-Rect courseCell(int course)
+bool isLetterOf(Control control, unsigned char key)
 {
-    constexpr float CAPTION_H = 34.0f;
-    Rect cell = coursePicture(course);
-    cell.h += CAPTION_H;
-    return cell;
+    const int index = accessIndex(control);
+    const std::string_view label = controlLabel(control);
+    return index >= 0 && index < static_cast<int>(label.size()) &&
+           lowerCase(label[static_cast<std::size_t>(index)]) == lowerCase(static_cast<char>(key));
 }
 
-Rect sectionRadio(int choice)
+// The first live control for which choose(row) is true.
+template <typename Choose> Control firstLive(Choose choose)
 {
-    return radioArea(
-        layout.sectionRadioX, layout.sectionRadioY + indexed(choice) * layout.sectionRadioStep,
-        layout.sectionRadioStep, layout.sectionRadioX + layout.sectionRadioStep + LABEL_ROOM);
+    for (const Row& row : rows)
+        if (choose(row) && isLive(row.control))
+            return row.control;
+    return NO_CONTROL;
 }
 
-Rect sectionRadios(int choiceCount)
+} // namespace
+
+Rect placeOf(Control control)
 {
-    Rect list = sectionRadio(0);
-    list.h = indexed(choiceCount) * layout.sectionRadioStep;
-    return list;
+    const Place& place = rows[control].place;
+    if (place.workedOut)
+        return place.workedOut();
+    return {layout.*place.x, layout.*place.y, layout.*place.w, layout.*place.h};
 }
 
-Rect sprintBox()
+Moment momentOf(Control control)
 {
-    return checkBoxArea(layout.sprintCheckX, layout.sprintCheckY, layout.designCheckSize);
+    return rows[control].moment;
 }
 
-Rect finishBox()
+bool isLive(Control control)
 {
-    return checkBoxArea(layout.finishCheckX, layout.finishCheckY, layout.designCheckSize);
+    const Row& row = rows[control];
+    return row.states.contains(gameState) && (!row.open || row.open());
 }
 
-// clang-format off
-
-Rect prevSectionButton() { return {layout.prevSectionButtonX, layout.designButtonY, layout.designButtonW, layout.buttonH}; }
-Rect addSectionButton()  { return {layout.addButtonX, layout.designButtonY, layout.designButtonW, layout.buttonH}; }
-Rect saveCourseButton()  { return {layout.saveCourseButtonX, layout.designButtonY, layout.designButtonW, layout.buttonH}; }
-
-Rect savedCoursePicture() { return overviewPicture(); }
-Rect prevCourseButton()   { return {layout.prevCourseButtonX, layout.savedButtonY, layout.savedButtonW, layout.buttonH}; }
-Rect nextCourseButton()   { return {layout.nextCourseButtonX, layout.savedButtonY, layout.savedButtonW, layout.buttonH}; }
-Rect savedOkButton()      { return {layout.savedOkX, layout.savedButtonY, layout.buttonW, layout.buttonH}; }
-Rect savedBackButton()    { return {layout.cornerButtonX, layout.cornerButtonY, layout.savedButtonW, layout.buttonH}; }
-
-Rect movementFrame() { return {layout.movementFrameX, layout.movementFrameY, layout.settingsFrameW, layout.movementFrameH}; }
-Rect ratioFrame()    { return {layout.ratioFrameX, layout.ratioFrameY, layout.settingsFrameW, layout.ratioFrameH}; }
-Rect smoothRadio()   { return radioArea(layout.movementRadioX, layout.smoothRadioY, layout.settingsRowH, settingsRight()); }
-Rect stepwiseRadio() { return radioArea(layout.movementRadioX, layout.stepwiseRadioY, layout.settingsRowH, settingsRight()); }
-
-Rect defaultButton()        { return {layout.defaultButtonX, layout.defaultButtonY, layout.defaultButtonW, layout.buttonH}; }
-Rect settingsOkButton()     { return {layout.settingsOkX, layout.settingsOkY, layout.buttonW, layout.buttonH}; }
-Rect settingsCancelButton() { return {layout.settingsCancelX, layout.settingsOkY, layout.buttonW, layout.buttonH}; }
-
-// clang-format on
-
-Rect settingsField(int field)
+bool asksOnce(Control control)
 {
-    const float rowH = layout.settingsRowH;
-    if (field == 2)
-        return {layout.stepTimeFieldX, layout.stepwiseRadioY + rowH * 0.5f, layout.settingsFieldW,
-                rowH};
-    const float rows = field == 0 ? 0.5f : 1.7f;
-    return {layout.delayFieldX, layout.smoothRadioY + rowH * rows, layout.settingsFieldW, rowH};
+    return (rows[control].traits & ONCE) != 0;
 }
 
-Rect ratioRadio(int ratio)
+std::string_view controlLabel(Control control)
 {
-    const float rows[3] = {layout.ratio54Y, layout.ratio43Y, layout.ratio1610Y};
-    return radioArea(layout.ratioRadioX, rows[ratio], layout.settingsRowH,
-                     layout.ratioFrameX + layout.settingsFrameW);
+    const Label& label = rows[control].label;
+    return label.text ? std::string_view(texts.*label.text) : label.fixed;
 }
 
-Rect raceListFrame()
+int accessIndex(Control control)
 {
-    return {layout.raceListX, layout.raceListY, indexed(raceListCols) * layout.raceListColW,
-            indexed(raceListRows + 1) * layout.raceListRowH};
+    const int language = settings.language;
+    if (language < 0 || language >= LANGUAGE_COUNT)
+        return NO_ACCESS_KEY;
+    return rows[control].letter[language];
 }
 
-// Up to the frame's right edge, where the button to the next page begins.
-Rect raceListNames()
+Control controlAt(int x, int y, Moment moment)
 {
-    return {layout.raceListX + layout.raceListInset, layout.raceListY + layout.raceListRowH * 0.5f,
-            indexed(raceListCols) * layout.raceListColW - layout.raceListInset,
-            indexed(raceListRows) * layout.raceListRowH};
+    return firstLive([=](const Row& row) {
+        return row.moment == moment && placeOf(row.control).contains(x, y);
+    });
 }
 
-// clang-format off
+Control controlOfKey(unsigned char key, bool panel)
+{
+    const auto asked = [=](const Row& row) { return (row.moment == ON_PRESS_PANEL) == panel; };
+    if (isConfirming(key)) {
+        const Control confirmed =
+            firstLive([=](const Row& row) { return asked(row) && (row.traits & CONFIRMS) != 0; });
+        if (confirmed != NO_CONTROL)
+            return confirmed;
+    }
+    return firstLive([=](const Row& row) { return asked(row) && isLetterOf(row.control, key); });
+}
 
-Rect listPrevButton()      { return {layout.listPrevX, layout.listArrowY, layout.buttonW, layout.buttonH}; }
-Rect listNextButton()      { return {layout.listNextX, layout.listArrowY, layout.buttonW, layout.buttonH}; }
-Rect listOkButton()        { return {layout.listOkX, layout.listButtonY, layout.buttonW, layout.buttonH}; }
-Rect listScorecardButton() { return {layout.listScorecardX, layout.listButtonY, layout.buttonW, layout.buttonH}; }
+void drawControl(Control control)
+{
+    drawControl(control, isLive(control));
+}
 
-Rect scorecardBox()      { return {layout.scorecardX, layout.scorecardY, layout.scorecardW, layout.scorecardH}; }
-Rect scorecardTitleBar() { return {layout.scorecardX, layout.scorecardY - layout.titleBarH, layout.scorecardW, layout.titleBarH}; }
-Rect scorecardOkButton() { return {layout.scorecardOkX, layout.scorecardBottomButtonY, layout.buttonW, layout.buttonH}; }
-Rect exportButton()      { return {layout.exportButtonX, layout.scorecardBottomButtonY, layout.exportButtonW, layout.buttonH}; }
-Rect prevStageButton()   { return {layout.prevStageX, layout.stageArrowY, layout.stageArrowW, layout.buttonH}; }
-Rect nextStageButton()   { return {layout.nextStageX, layout.stageArrowY, layout.stageArrowW, layout.buttonH}; }
-Rect generalViewButton() { return {layout.generalViewButtonX, layout.scorecardBottomButtonY, layout.stageViewButtonW, layout.buttonH}; }
-Rect stageViewButton()   { return {layout.stageViewButtonX, layout.scorecardBottomButtonY, layout.stageViewButtonW, layout.buttonH}; }
+void drawControl(Control control, bool bright)
+{
+    const Rect place = placeOf(control);
+    drawButton(place.x, place.y, place.w, place.h, bright, controlLabel(control),
+               accessIndex(control));
+}
 
-Rect overviewPicture()   { return {layout.overviewX, layout.overviewY, layout.overviewW, layout.overviewH}; }
-Rect positionsOkButton() { return cornerButton(); }
-
-// clang-format on
+void drawCheckControl(Control control, bool checked)
+{
+    const Rect place = placeOf(control);
+    drawCheckBox(static_cast<int>(place.x), static_cast<int>(place.y), static_cast<int>(place.h),
+                 controlLabel(control), accessIndex(control), isLive(control), checked);
+}

@@ -4,11 +4,11 @@
 #include "play/doping.h"
 #include "race/event_deck.h"
 #include "race/race_state.h"
-#include "ui/access_keys.h"
 #include "ui/controls.h"
 #include "ui/event_texts.h"
 #include "ui/layout.h"
 #include "ui/pawns.h"
+#include "ui/places.h"
 #include "ui/team_setup.h"
 #include "ui/text.h"
 #include "ui/texts.h"
@@ -26,25 +26,6 @@ constexpr float ABOVE_LINE = 8.0f;     // kept free from the middle of a line of
 constexpr float BELOW_LINE = 7.0f;     // and downward
 constexpr float PAWN_RADIUS = 14.0f;
 constexpr float TEXT_MARGIN = 12.0f; // pixels kept free at either side of a text
-
-static void drawBox()
-{
-    const Rect box = dialogBox();
-    drawDialogBox(box.x, box.y, box.w, box.h);
-    setColour(BLACK);
-}
-
-static void drawOkButton()
-{
-    const Rect at = dialogOkButton();
-    drawButton(at.x, at.y, at.w, at.h, true, "OK", 0);
-}
-
-static void drawTwoButtons(Control left, Control right)
-{
-    drawControl(left, dialogLeftButton(), true);
-    drawControl(right, dialogRightButton(), true);
-}
 
 // The text in lines that are no wider than the room for them.
 static std::vector<std::string> linesOf(std::string_view text, float room)
@@ -81,41 +62,23 @@ static void drawMessage(std::string_view message, float margin = TEXT_MARGIN)
     drawLines(linesOf(message, w - 2.0f * margin), w * 0.5f, ALIGN_CENTRE);
 }
 
-static void drawQuestion(std::string_view question, Control left, Control right)
-{
-    drawBox();
-    drawMessage(question);
-    drawTwoButtons(left, right);
-}
-
-static void drawNotice(std::string_view notice)
-{
-    drawBox();
-    drawMessage(notice);
-    drawOkButton();
-}
-
 // About the rider on turn, whose pawn stands at the left.
 static void drawRiderNotice(std::string_view notice)
 {
     const Rect box = dialogBox();
     const float pawnX = box.w * 0.12f;
-    drawBox();
     drawMessage(notice, pawnX + PAWN_RADIUS + TEXT_MARGIN);
     drawPawnAt(race.currentRider, box.x + pawnX, box.y + box.h * 0.5f);
-    drawOkButton();
 }
 
 static void drawFollowPrompt()
 {
     const Rect box = dialogBox();
     const float textX = box.w * 0.25f;
-    drawBox();
     drawLines(linesOf(withNumber(texts.followPrompt, riderNumber(race.currentRider)),
                       box.w - textX - TEXT_MARGIN),
               textX, ALIGN_LEFT);
     drawPawnAt(race.followerRider, box.x + box.w * 0.2f, box.y + box.h * 0.5f);
-    drawTwoButtons(CONTROL_YES, CONTROL_NO);
 }
 
 // Lines one below the other, the first in the given distance from the middle of the box. Where they
@@ -125,7 +88,7 @@ static void drawColumn(const std::vector<std::string>& lines, float first, float
     if (lines.empty())
         return;
     const Rect box = dialogBox();
-    const float lowest = dialogOkButton().y - box.y - BELOW_LINE;
+    const float lowest = layout.dialogButtonY - box.y - BELOW_LINE;
     const float gaps = static_cast<float>(std::max<std::size_t>(1, lines.size() - 1));
     const float step = std::min(pitch, (lowest - ABOVE_LINE) / gaps);
     const float highest =
@@ -153,14 +116,12 @@ static void drawEventCard()
     lines.emplace_back();
     for (const std::string& line : eventEffect(card))
         lines.push_back(line);
-    drawBox();
     drawColumn(lines, -0.5f * static_cast<float>(lines.size()) * LINE_PITCH, LINE_PITCH);
-    drawOkButton();
 }
 
 static void drawDopingNumber()
 {
-    drawNotice(texts.dopingNumber + ": " + std::to_string(race.dopingNumber[race.currentRider]));
+    drawMessage(texts.dopingNumber + ": " + std::to_string(race.dopingNumber[race.currentRider]));
 }
 
 // The list breaks behind any of its commas.
@@ -193,74 +154,81 @@ static void drawDopingDraw()
         for (const std::string& line : caughtRiders())
             sentences.push_back(line);
     }
-    drawBox();
     drawReport(sentences);
-    drawOkButton();
 }
 
 static void drawCountercheck()
 {
     const std::string number = std::to_string(riderNumber(race.currentRider));
-    drawBox();
     drawReport({texts.countercheck,
                 texts.dopingNumberOfCyclist + " " + number + ": " +
                     std::to_string(race.dopingNumber[race.currentRider]),
                 texts.draw + ": " + std::to_string(race.counterDie),
                 texts.cyclist + " " + number + " " +
                     (counterDieAcquits() ? texts.acquitted : texts.disqualificationConfirmed)});
-    drawOkButton();
 }
 
 // The name is that of a file, which may be of any length.
 static void drawSaveFailed()
 {
     const float room = dialogBox().w - 2.0f * TEXT_MARGIN;
-    drawBox();
     drawReport({texts.couldNotSave + "\"" +
                 cutToWidth(shownFileName(raceSetup.raceFileName), room * 0.8f) + "\""});
-    drawTwoButtons(CONTROL_RETRY, CONTROL_ABORT);
 }
 
 static void drawSetupMessages()
 {
     const auto& messages = teamSetup.setupMessages;
-    drawBox();
     drawColumn(messages, -0.5f * static_cast<float>(messages.size() + 1) * LINE_PITCH, LINE_PITCH);
-    drawOkButton();
+}
+
+struct Dialog {
+    GameState state;
+    void (*drawContents)();
+    Control control;
+    Control right = NO_CONTROL; // of two
+};
+
+// clang-format off
+constexpr Dialog DIALOGS[] = {
+    {STATE_FOLLOW_PROMPT,       drawFollowPrompt,                                      CONTROL_FOLLOW_YES, CONTROL_FOLLOW_NO},
+    {STATE_EVENT_CARD,          drawEventCard,                                         CONTROL_EVENT_OK},
+    {STATE_EVENT_CARD_KIND,     [] { drawMessage(texts.whichCard); },                  CONTROL_BLUE, CONTROL_WHITE},
+    {STATE_EVENT_CARD_WHEN,     [] { drawMessage(texts.whenCard); },                   CONTROL_IMMEDIATELY, CONTROL_LATER},
+    {STATE_EVENT_NO_CARD,       [] { drawMessage(texts.noCardEventCancelled); },       CONTROL_NO_EVENT_OK},
+    {STATE_NO_MOVE,             [] { drawRiderNotice(texts.noForward); },              CONTROL_NO_MOVE_OK},
+    {STATE_SKIP_NO_CARD,        [] { drawRiderNotice(texts.noCard); },                 CONTROL_NO_CARD_OK},
+    {STATE_CONFIRM_DOPING,      [] { drawMessage(texts.confirmDoping); },              CONTROL_DOPING_YES, CONTROL_DOPING_NO},
+    {STATE_DOPING_NUMBER,       drawDopingNumber,                                      CONTROL_DOPING_NUMBER_OK},
+    {STATE_DOPING_DRAW,         drawDopingDraw,                                        CONTROL_DOPING_DRAW_OK},
+    {STATE_DOPING_COUNTERCHECK, drawCountercheck,                                      CONTROL_COUNTERCHECK_OK},
+    {STATE_CONFIRM_QUIT,        [] { drawMessage(texts.confirmQuit); },                CONTROL_QUIT_YES, CONTROL_QUIT_NO},
+    {STATE_SETUP_MESSAGE,       drawSetupMessages,                                     CONTROL_SETUP_MESSAGE_OK},
+    {STATE_SAVE_FAILED,         drawSaveFailed,                                        CONTROL_RETRY, CONTROL_ABORT},
+};
+// clang-format on
+
+static const Dialog* presentDialog()
+{
+    const Dialog* dialog = std::ranges::find(DIALOGS, gameState, &Dialog::state);
+    return dialog == std::end(DIALOGS) ? nullptr : dialog;
+}
+
+bool dialogShown()
+{
+    return presentDialog() != nullptr;
 }
 
 void drawDialog()
 {
-    switch (gameState) {
-    case STATE_FOLLOW_PROMPT:
-        return drawFollowPrompt();
-    case STATE_EVENT_CARD:
-        return drawEventCard();
-    case STATE_NO_MOVE:
-        return drawRiderNotice(texts.noForward);
-    case STATE_SKIP_NO_CARD:
-        return drawRiderNotice(texts.noCard);
-    case STATE_EVENT_NO_CARD:
-        return drawNotice(texts.noCardEventCancelled);
-    case STATE_SETUP_MESSAGE:
-        return drawSetupMessages();
-    case STATE_CONFIRM_QUIT:
-        return drawQuestion(texts.confirmQuit, CONTROL_YES, CONTROL_NO);
-    case STATE_CONFIRM_DOPING:
-        return drawQuestion(texts.confirmDoping, CONTROL_YES, CONTROL_NO);
-    case STATE_DOPING_NUMBER:
-        return drawDopingNumber();
-    case STATE_DOPING_DRAW:
-        return drawDopingDraw();
-    case STATE_DOPING_COUNTERCHECK:
-        return drawCountercheck();
-    case STATE_SAVE_FAILED:
-        return drawSaveFailed();
-    case STATE_EVENT_CARD_KIND:
-        return drawQuestion(texts.whichCard, CONTROL_BLUE, CONTROL_WHITE);
-    case STATE_EVENT_CARD_WHEN:
-        return drawQuestion(texts.whenCard, CONTROL_IMMEDIATELY, CONTROL_LATER);
-    default:
+    const Dialog* dialog = presentDialog();
+    if (!dialog)
         return;
-    }
+    const Rect box = dialogBox();
+    drawDialogBox(box.x, box.y, box.w, box.h);
+    setColour(BLACK);
+    dialog->drawContents();
+    drawControl(dialog->control);
+    if (dialog->right != NO_CONTROL)
+        drawControl(dialog->right);
 }

@@ -1,4 +1,9 @@
 #pragma once
 
-// The dialog box of the present state, on top of what is drawn already. Nothing in a state without.
+// The boxes on top: a row of one table for each state that shows one. Where they stand and the
+// buttons in them are told in ui/places and ui/controls.
+
+// Whether the present state shows a dialog, which can then be dragged by its title bar.
+bool dialogShown();
+
 void drawDialog();

@@ -3,12 +3,12 @@
 #include "board/course.h"
 #include "board/section_shapes.h"
 #include "race/race_state.h"
-#include "ui/access_keys.h"
 #include "ui/controls.h"
 #include "ui/course_table.h"
 #include "ui/layout.h"
 #include "ui/models.h"
 #include "ui/pawns.h"
+#include "ui/places.h"
 #include "ui/text.h"
 #include "ui/texts.h"
 #include "ui/widgets.h"
@@ -144,7 +144,8 @@ static void drawCourse()
     const float x = layout.overviewTitleX + BESIDE_TABLE;
     const float viewH = static_cast<float>(layout.viewH);
     setColour(WHITE);
-    drawText(x, viewH * 0.93f, ALIGN_LEFT, cutToWidth(stagesText(), cornerButton().x - x));
+    drawText(x, viewH * 0.93f, ALIGN_LEFT,
+             cutToWidth(stagesText(), placeOf(CONTROL_POSITIONS_OK).x - x));
     drawCheckBox(static_cast<int>(x), static_cast<int>(viewH * 0.947f),
                  static_cast<int>(layout.teamCheckSize), texts.enableEventCards, NO_ACCESS_KEY,
                  false, raceSetup.eventCardsOn);
@@ -160,6 +161,5 @@ void drawPositions()
     for (int rider = 0; rider < RIDER_COUNT; ++rider)
         drawPawn(rider);
     drawCourse();
-    const Rect ok = positionsOkButton();
-    drawButton(ok.x, ok.y, ok.w, ok.h, true, "OK", 0);
+    drawControl(CONTROL_POSITIONS_OK);
 }

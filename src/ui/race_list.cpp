@@ -2,8 +2,8 @@
 
 #include "race/race_state.h"
 #include "store/race_file.h"
-#include "ui/controls.h"
 #include "ui/layout.h"
+#include "ui/places.h"
 
 #include <algorithm>
 

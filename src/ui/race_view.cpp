@@ -5,14 +5,13 @@
 #include "board/course.h"
 #include "board/trig_tables.h"
 #include "play/cards.h"
-#include "play/doping.h"
 #include "race/card_rules.h"
 #include "race/race_state.h"
-#include "ui/access_keys.h"
 #include "ui/card_panel.h"
 #include "ui/controls.h"
 #include "ui/layout.h"
 #include "ui/pawns.h"
+#include "ui/places.h"
 #include "ui/strength_cards.h"
 #include "ui/text.h"
 #include "ui/texts.h"
@@ -25,7 +24,7 @@
 
 static void drawViewToggle()
 {
-    const Rect box = viewToggle();
+    const Rect box = placeOf(CONTROL_VIEW);
     const float middle = box.x + box.w * 0.5f;
     setColour(buttonGrey);
     fillRect(box.x, box.y, box.w, box.h);
@@ -41,7 +40,7 @@ static void drawViewToggle()
 // A circular arrow: an open circle with its head where it began, round the point looked at.
 static void drawCameraButton()
 {
-    const Rect box = cameraButton();
+    const Rect box = placeOf(CONTROL_CAMERA);
     const float h = box.h;
     const float x = box.x + h * 0.5f;
     const float y = box.y + h * 0.5f;
@@ -65,12 +64,9 @@ static void drawCameraButton()
 
 static void drawSideButtons()
 {
-    const bool open = racePanelActive();
-    drawControl(CONTROL_SCORECARD, scorecardButton(), open);
-    drawControl(CONTROL_POSITIONS, positionsButton(), open);
-    drawControl(CONTROL_DOPING, dopingButton(), mayDope());
-    drawControl(CONTROL_RACE_SETTINGS, settingsButton(), open);
-    drawControl(CONTROL_QUIT, quitButton(), open);
+    for (const Control control : {CONTROL_SCORECARD, CONTROL_POSITIONS, CONTROL_DOPING,
+                                  CONTROL_RACE_SETTINGS, CONTROL_QUIT})
+        drawControl(control);
 }
 
 static void drawTeamBox()
@@ -112,16 +108,14 @@ static bool extraThrowShown()
 // A label that would run under the button of the extra die stands below the box instead.
 static void drawBreakawayBox()
 {
-    const bool open =
-        gameState == STATE_TURN && (race.playedCards[0] != -1 || race.playedCards[1] != -1);
-    const Rect box = breakawayBox();
+    const Rect box = placeOf(CONTROL_BREAKAWAY);
     const std::string_view label = controlLabel(CONTROL_BREAKAWAY);
     const float labelEnd = box.x + 1.15f * aspectFix() * layout.breakawaySize +
                            static_cast<float>(textWidth(label, FONT_BODY));
-    const bool below = extraThrowShown() && labelEnd > extraThrowButton().x;
+    const bool below = extraThrowShown() && labelEnd > placeOf(CONTROL_EXTRA_THROW).x;
     drawCheckBox(static_cast<int>(box.x), static_cast<int>(box.y),
                  static_cast<int>(layout.breakawaySize), below ? "" : label,
-                 accessIndex(CONTROL_BREAKAWAY), open, race.breakaway != 0);
+                 accessIndex(CONTROL_BREAKAWAY), isLive(CONTROL_BREAKAWAY), race.breakaway != 0);
     if (below)
         drawText(box.x, box.y + box.h + 10.0f, ALIGN_LEFT, label);
 }
@@ -176,27 +170,23 @@ static void drawHandInSlots()
         setColour(disabledGrey);
         drawRoundedBox(place.x, place.y, place.w, place.h, static_cast<float>(layout.viewW / 112));
     }
-    const bool open = gameState == STATE_SKIP_HANDIN || race.handInCards[0] != -1;
-    const Rect ok = handInOkButton();
-    drawButton(ok.x, ok.y, ok.w, ok.h, open, "OK", 0);
+    drawControl(CONTROL_HAND_IN);
 }
 
 static void drawThrowButton()
 {
-    const bool open = gameState == STATE_TURN || gameState == STATE_ORDER_THROW ||
-                      gameState == STATE_ORDER_RESULT;
-    drawControl(gameState == STATE_ORDER_RESULT ? CONTROL_NEXT : CONTROL_THROW, throwButton(),
-                open);
+    drawControl(gameState == STATE_ORDER_RESULT  ? CONTROL_NEXT
+                : gameState == STATE_ORDER_THROW ? CONTROL_ORDER_THROW
+                                                 : CONTROL_THROW);
 }
 
 static void drawExtraDie()
 {
-    const bool throwing = gameState == STATE_EVENT_DIE;
-    if (!throwing && race.extraDie == -1)
+    if (gameState != STATE_EVENT_DIE && race.extraDie == -1)
         return;
     drawDice(DICE_EXTRA);
     if (extraThrowShown())
-        drawControl(CONTROL_THROW, extraThrowButton(), throwing);
+        drawControl(CONTROL_EXTRA_THROW);
 }
 
 void drawRacePanel()

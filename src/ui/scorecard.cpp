@@ -5,11 +5,11 @@
 #include "race/race_state.h"
 #include "race/scoring.h"
 #include "store/race_file.h"
-#include "ui/access_keys.h"
 #include "ui/controls.h"
 #include "ui/layout.h"
 #include "ui/models.h"
 #include "ui/pawns.h"
+#include "ui/places.h"
 #include "ui/score_pages.h"
 #include "ui/text.h"
 #include "ui/texts.h"
@@ -128,28 +128,14 @@ static void drawTitle()
     drawText(layout.stageTitleX, layout.stageTitleY, ALIGN_CENTRE, scorePageTitle(), FONT_TITLE);
 }
 
-static void drawArrow(const Rect& at, bool enabled, std::string_view label)
-{
-    drawButton(at.x, at.y, at.w, at.h, enabled, label, NO_ACCESS_KEY);
-}
-
 static void drawPageControls()
 {
     if (!generalPageShown()) {
-        drawArrow(prevStageButton(), mayTurnBack(), "<");
-        drawArrow(nextStageButton(), mayTurnOn(), ">");
+        drawControl(CONTROL_PREVIOUS_STAGE);
+        drawControl(CONTROL_NEXT_STAGE);
     }
-    drawControl(CONTROL_GENERAL, generalViewButton(), mayShowGeneral());
-    drawControl(CONTROL_STAGE, stageViewButton(), mayShowStage());
-}
-
-static void drawLeaveButton()
-{
-    const Rect at = scorecardOkButton();
-    if (gameState == STATE_FINAL_SCORECARD)
-        drawControl(CONTROL_QUIT, at, true);
-    else
-        drawButton(at.x, at.y, at.w, at.h, true, "OK", 0);
+    drawControl(CONTROL_GENERAL);
+    drawControl(CONTROL_STAGE);
 }
 
 // Between the tables and the buttons, where every page is free.
@@ -176,7 +162,7 @@ void drawScorecard()
         drawTitle();
         drawPageControls();
     }
-    drawControl(CONTROL_EXPORT, exportButton(), true);
-    drawLeaveButton();
+    drawControl(CONTROL_EXPORT);
+    drawControl(gameState == STATE_FINAL_SCORECARD ? CONTROL_SHEET_QUIT : CONTROL_SHEET_OK);
     drawExportMessage();
 }

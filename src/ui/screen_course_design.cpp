@@ -2,12 +2,12 @@
 
 #include "board/course.h"
 #include "board/designer.h"
-#include "ui/access_keys.h"
 #include "ui/controls.h"
 #include "ui/course_table.h"
 #include "ui/layout.h"
 #include "ui/matrices.h"
 #include "ui/models.h"
+#include "ui/places.h"
 #include "ui/text.h"
 #include "ui/texts.h"
 #include "ui/widgets.h"
@@ -39,25 +39,12 @@ static void drawNextSections()
     }
 }
 
-static void drawMark(const Rect& box, const std::string& label, bool enabled, bool checked)
+static void drawDesignControls()
 {
-    drawCheckBox(static_cast<int>(box.x), static_cast<int>(box.y),
-                 static_cast<int>(layout.designCheckSize), label, NO_ACCESS_KEY, enabled, checked);
-}
-
-static void drawDesignButtons()
-{
-    const bool finished = designFinished();
-    const Rect add = addSectionButton();
-    const Rect save = saveCourseButton();
-    const Rect back = cornerButton();
-    drawControl(CONTROL_PREVIOUS_SECTION, prevSectionButton(), sectionUndoable());
-    if (finished)
-        drawButton(add.x, add.y, add.w, add.h, true, "OK", 0);
-    else
-        drawControl(CONTROL_ADD_SECTION, add, true);
-    drawButton(save.x, save.y, save.w, save.h, finished, texts.saveCourse, NO_ACCESS_KEY);
-    drawButton(back.x, back.y, back.w, back.h, true, texts.courseBack, NO_ACCESS_KEY);
+    drawControl(CONTROL_PREVIOUS_SECTION, sectionUndoable());
+    drawControl(designFinished() ? CONTROL_DESIGN_OK : CONTROL_ADD_SECTION);
+    drawControl(CONTROL_SAVE_COURSE);
+    drawControl(CONTROL_DESIGN_BACK);
 }
 
 // On a white slip, since dark red can't be read on the blue band.
@@ -65,7 +52,7 @@ static void drawSaveFailure()
 {
     const std::string message = "\"courses\"" + texts.couldNotOpen;
     const float w = static_cast<float>(textWidth(message, FONT_BODY)) + 30.0f;
-    const Rect save = saveCourseButton();
+    const Rect save = placeOf(CONTROL_SAVE_COURSE);
     const float x = save.x + save.w * 0.5f;
     const float y = save.y - 14.0f;
     setColour(WHITE);
@@ -79,10 +66,10 @@ void drawCourseDesigner()
     drawPreview();
     drawCourseTable(layout.designTitleX, layout.designTitleY, layout.designTitleStep,
                     countCourseLaps(courseText, LAPS_DRIVEN), FRAME_INSET);
-    drawDesignButtons();
+    drawDesignControls();
     drawNextSections();
-    drawMark(sprintBox(), texts.sprint, sprintChoosable(), courseScreens.designSprintChecked);
-    drawMark(finishBox(), texts.finish, finishChoosable(), courseScreens.designFinishChecked);
+    drawCheckControl(CONTROL_SPRINT, courseScreens.designSprintChecked);
+    drawCheckControl(CONTROL_FINISH, courseScreens.designFinishChecked);
     if (courseScreens.saveFailed)
         drawSaveFailure();
 }

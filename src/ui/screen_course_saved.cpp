@@ -5,8 +5,7 @@
 #include "ui/course_table.h"
 #include "ui/layout.h"
 #include "ui/picture_strip.h"
-#include "ui/text.h"
-#include "ui/texts.h"
+#include "ui/places.h"
 #include "ui/textures.h"
 #include "ui/widgets.h"
 
@@ -24,18 +23,12 @@ static void drawBoardPicture(const Rect& at)
     glDisable(GL_TEXTURE_2D);
 }
 
-static void drawSavedButton(const Rect& at, bool enabled, std::string_view label)
-{
-    drawButton(at.x, at.y, at.w, at.h, enabled, label, NO_ACCESS_KEY);
-}
-
 void drawSavedCourses()
 {
-    drawBoardPicture(savedCoursePicture());
+    drawBoardPicture(overviewPicture());
     drawCourseTable(layout.savedTitleX, layout.savedTitleY, layout.savedTitleStep,
                     countCourseLaps(courseText, LAPS_TITLED), 0.0f);
-    drawSavedButton(prevCourseButton(), true, texts.previousCourse);
-    drawSavedButton(nextCourseButton(), true, texts.nextCourse);
-    drawSavedButton(savedBackButton(), true, texts.savedBack);
-    drawSavedButton(savedOkButton(), !courseText.empty(), "OK");
+    for (const Control control :
+         {CONTROL_PREVIOUS_COURSE, CONTROL_NEXT_COURSE, CONTROL_SAVED_BACK, CONTROL_SAVED_OK})
+        drawControl(control);
 }

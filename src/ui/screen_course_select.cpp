@@ -3,10 +3,10 @@
 #include "board/course.h"
 #include "board/designer.h"
 #include "board/pictures.h"
-#include "ui/access_keys.h"
 #include "ui/controls.h"
 #include "ui/layout.h"
 #include "ui/models.h"
+#include "ui/places.h"
 #include "ui/text.h"
 #include "ui/texts.h"
 #include "ui/widgets.h"
@@ -54,7 +54,7 @@ void drawCourseSelection()
     for (int index = 0; index < FIXED_COURSE_COUNT; ++index)
         drawCourse(index);
 
-    drawControl(CONTROL_SAVED_COURSE, savedCourseButton(), true);
-    drawControl(CONTROL_CREATE_COURSE, newCourseButton(), true);
-    drawControl(CONTROL_COURSE_BACK, cornerButton(), true);
+    drawControl(CONTROL_SAVED_COURSE);
+    drawControl(CONTROL_CREATE_COURSE);
+    drawControl(CONTROL_COURSE_BACK);
 }

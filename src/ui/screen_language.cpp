@@ -1,7 +1,7 @@
 #include "ui/screens.h"
 
 #include "app/settings.h"
-#include "ui/controls.h"
+#include "ui/places.h"
 #include "ui/text.h"
 #include "ui/texts.h"
 #include "ui/widgets.h"

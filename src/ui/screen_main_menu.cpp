@@ -1,6 +1,5 @@
 #include "ui/screens.h"
 
-#include "ui/access_keys.h"
 #include "ui/controls.h"
 #include "ui/layout.h"
 #include "ui/text.h"
@@ -14,12 +13,9 @@ void drawMainMenu()
     setColour(WHITE);
     drawText(centre, bottom * 0.24f, ALIGN_CENTRE, texts.mainMenuTitle, FONT_TITLE);
 
-    drawControl(CONTROL_LANGUAGE, menuLanguageButton(), true);
-    drawControl(CONTROL_MANUAL, menuManualButton(), true);
-    drawControl(CONTROL_MENU_SETTINGS, menuSettingsButton(), true);
-    drawControl(CONTROL_CONTINUE, menuContinueButton(), true);
-    drawControl(CONTROL_START, menuStartButton(), true);
-    drawControl(CONTROL_EXIT, exitButton(), true);
+    for (const Control control : {CONTROL_LANGUAGE, CONTROL_MANUAL, CONTROL_MENU_SETTINGS,
+                                  CONTROL_CONTINUE, CONTROL_START, CONTROL_EXIT})
+        drawControl(control);
 
     setColour(WHITE);
     drawText(centre, bottom - 65.0f, ALIGN_CENTRE, texts.creditDesigner);

@@ -3,8 +3,8 @@
 #include "ui/controls.h"
 #include "ui/layout.h"
 #include "ui/manual_pages.h"
+#include "ui/places.h"
 #include "ui/text.h"
-#include "ui/texts.h"
 #include "ui/widgets.h"
 
 #include <string>
@@ -20,12 +20,7 @@ void drawManual()
     drawText(layout.pageNumberX, layout.pageNumberY, ALIGN_CENTRE,
              std::to_string(manualPage + 1) + "/" + std::to_string(manualPageCount), FONT_TITLE);
 
-    const Rect ok = manualOkButton();
-    const Rect previous = prevPageButton();
-    const Rect next = nextPageButton();
-    drawButton(ok.x, ok.y, ok.w, ok.h, true, "OK", 0);
-    drawButton(previous.x, previous.y, previous.w, previous.h, manualPage > 0, texts.previousPage,
-               NO_ACCESS_KEY);
-    drawButton(next.x, next.y, next.w, next.h, manualPage + 1 < manualPageCount, texts.nextPage,
-               NO_ACCESS_KEY);
+    drawControl(CONTROL_MANUAL_OK);
+    drawControl(CONTROL_PREVIOUS_PAGE);
+    drawControl(CONTROL_NEXT_PAGE);
 }

@@ -1,24 +1,17 @@
 #include "ui/screens.h"
 
-#include "app/game_state.h"
 #include "race/race_state.h"
 #include "store/race_file.h"
-#include "ui/access_keys.h"
 #include "ui/controls.h"
 #include "ui/layout.h"
 #include "ui/pawns.h"
+#include "ui/places.h"
 #include "ui/race_list.h"
 #include "ui/text.h"
 #include "ui/texts.h"
 #include "ui/widgets.h"
 
 #include <algorithm>
-
-// Behind the scorecard of STATE_RACE_STANDINGS everything is grey.
-static bool listOpen()
-{
-    return gameState == STATE_RACE_FILES;
-}
 
 // What stands in the columns shown, by its place from the upper left downward.
 static void drawName(int place, const std::string& fileName)
@@ -73,11 +66,6 @@ static void drawChosenRace()
                 racePreview.eventCardsOn);
 }
 
-static void drawPageButton(const Rect& at, bool open, const char* label)
-{
-    drawButton(at.x, at.y, at.w, at.h, listOpen() && open, label, NO_ACCESS_KEY);
-}
-
 void drawRaceFiles()
 {
     refreshRaceList();
@@ -88,10 +76,7 @@ void drawRaceFiles()
     if (raceChosen())
         drawChosenRace();
 
-    const Rect ok = listOkButton();
-    drawPageButton(listPrevButton(), racesBefore(), "<");
-    drawPageButton(listNextButton(), racesBehind(), ">");
-    drawButton(ok.x, ok.y, ok.w, ok.h, listOpen() && raceChosen(), "OK", 0);
-    drawControl(CONTROL_SCORECARD, listScorecardButton(), listOpen() && raceChosen());
-    drawControl(CONTROL_COURSE_BACK, cornerButton(), listOpen());
+    for (const Control control : {CONTROL_LIST_PREVIOUS, CONTROL_LIST_NEXT, CONTROL_LIST_OK,
+                                  CONTROL_LIST_SCORECARD, CONTROL_LIST_BACK})
+        drawControl(control);
 }

@@ -3,6 +3,7 @@
 #include "app/settings.h"
 #include "ui/controls.h"
 #include "ui/layout.h"
+#include "ui/places.h"
 #include "ui/settings_screen.h"
 #include "ui/text.h"
 #include "ui/texts.h"
@@ -17,12 +18,12 @@ static void drawFrameOf(const Rect& at, const std::string& title)
                    static_cast<int>(at.h), title);
 }
 
-static void drawChoice(float x, float y, const std::string& label, bool selected)
+static void drawChoice(float x, float y, Control control, bool selected)
 {
     drawRadioButton(static_cast<int>(x), static_cast<int>(y),
                     static_cast<int>(layout.settingsRowH * 0.5f), selected, true);
     setColour(WHITE);
-    drawText(x + layout.settingsRowH, y, ALIGN_LEFT, label);
+    drawText(x + layout.settingsRowH, y, ALIGN_LEFT, controlLabel(control));
 }
 
 // A number with its label before it and, if it has one, its unit behind it.
@@ -39,36 +40,31 @@ static void drawField(int field, const std::string& label, const std::string& un
                 field == settingsScreen.settingsActiveField, settingsScreen.settingsCursor, open);
 }
 
-static void drawPlainButton(const Rect& at, const std::string& label)
-{
-    drawButton(at.x, at.y, at.w, at.h, true, label, NO_ACCESS_KEY);
-}
-
 static void drawMovement()
 {
     drawFrameOf(movementFrame(), texts.computerMovement);
-    drawChoice(layout.movementRadioX, layout.smoothRadioY, texts.smoothMovement,
+    drawChoice(layout.movementRadioX, layout.smoothRadioY, CONTROL_SMOOTH,
                settings.smoothMovement != 0);
     drawField(FIELD_STEP_TIME, texts.delay, "ms");
     drawField(FIELD_STEP_DISTANCE, texts.distance, "");
-    drawChoice(layout.movementRadioX, layout.stepwiseRadioY, texts.stepwiseMovement,
+    drawChoice(layout.movementRadioX, layout.stepwiseRadioY, CONTROL_STEPWISE,
                settings.smoothMovement == 0);
     drawField(FIELD_STEP_DELAY, texts.timeBetweenSteps, "ms");
-    drawPlainButton(defaultButton(), texts.defaultValues);
+    drawControl(CONTROL_DEFAULT);
 }
 
-static void drawRatioChoice(float y, const std::string& label, const ScreenRatio& ratio)
+static void drawRatioChoice(float y, Control control, const ScreenRatio& ratio)
 {
-    drawChoice(layout.ratioRadioX, y, label,
+    drawChoice(layout.ratioRadioX, y, control,
                settings.ratioW == ratio.w && settings.ratioH == ratio.h);
 }
 
 static void drawRatios()
 {
     drawFrameOf(ratioFrame(), texts.screenRatio);
-    drawRatioChoice(layout.ratio54Y, texts.ratio54, SCREEN_RATIOS[0]);
-    drawRatioChoice(layout.ratio43Y, texts.ratio43, SCREEN_RATIOS[1]);
-    drawRatioChoice(layout.ratio1610Y, texts.ratio1610, SCREEN_RATIOS[2]);
+    drawRatioChoice(layout.ratio54Y, CONTROL_RATIO_54, SCREEN_RATIOS[0]);
+    drawRatioChoice(layout.ratio43Y, CONTROL_RATIO_43, SCREEN_RATIOS[1]);
+    drawRatioChoice(layout.ratio1610Y, CONTROL_RATIO_1610, SCREEN_RATIOS[2]);
 }
 
 void drawSettings()
@@ -78,6 +74,6 @@ void drawSettings()
              texts.settings, FONT_TITLE);
     drawMovement();
     drawRatios();
-    drawPlainButton(settingsOkButton(), "OK");
-    drawPlainButton(settingsCancelButton(), texts.cancel);
+    drawControl(CONTROL_SETTINGS_OK);
+    drawControl(CONTROL_SETTINGS_CANCEL);
 }

@@ -5,6 +5,7 @@
 #include "ui/controls.h"
 #include "ui/layout.h"
 #include "ui/pawns.h"
+#include "ui/places.h"
 #include "ui/team_setup.h"
 #include "ui/text.h"
 #include "ui/texts.h"
@@ -27,26 +28,24 @@ static void drawTeamRow(int team)
 {
     const int firstRider = team * RIDERS_PER_TEAM;
     const Rect name = teamNameBox(team);
-    const Rect box = teamComputerBox(team);
     drawPawnAt(firstRider, layout.teamNameX * 0.95f, name.y + name.h * 0.5f, SMALL_PAWN);
     drawNameField(team, name, raceSetup.teamName[team], choicesOpen());
-    drawCheckBox(static_cast<int>(box.x), static_cast<int>(box.y),
-                 static_cast<int>(layout.teamCheckSize), texts.computerPlayer, NO_ACCESS_KEY,
-                 choicesOpen(), !race.riders[firstRider].isHuman);
+    drawCheckControl(static_cast<Control>(CONTROL_COMPUTER_1 + team),
+                     !race.riders[firstRider].isHuman);
 }
 
-static void drawStageChoice(float y, const std::string& label, bool selected)
+static void drawStageChoice(float y, Control control, bool selected)
 {
     drawRadioButton(static_cast<int>(layout.stageRadioX), static_cast<int>(y),
                     static_cast<int>(layout.stageRowH * 0.5f), selected, choicesOpen());
     setColour(choicesOpen() ? WHITE : disabledGrey);
-    drawText(layout.stageRadioX + layout.stageRowH, y, ALIGN_LEFT, label);
+    drawText(layout.stageRadioX + layout.stageRowH, y, ALIGN_LEFT, controlLabel(control));
 }
 
 static void drawStages()
 {
-    drawStageChoice(layout.multiStageY, texts.multipleStages, raceSetup.multiStage);
-    drawStageChoice(layout.singleStageY, texts.singleStage, !raceSetup.multiStage);
+    drawStageChoice(layout.multiStageY, CONTROL_MULTI_STAGE, raceSetup.multiStage);
+    drawStageChoice(layout.singleStageY, CONTROL_SINGLE_STAGE, !raceSetup.multiStage);
 
     const bool named = choicesOpen() && raceSetup.multiStage;
     setColour(named ? WHITE : disabledGrey);
@@ -64,13 +63,7 @@ void drawTeamSetup()
         drawTeamRow(team);
     drawStages();
 
-    const Rect events = eventCardsBox();
-    drawCheckBox(static_cast<int>(events.x), static_cast<int>(events.y),
-                 static_cast<int>(layout.teamCheckSize), texts.enableEventCards, NO_ACCESS_KEY,
-                 choicesOpen(), raceSetup.eventCardsOn);
-
-    const Rect back = cornerButton();
-    const Rect ok = teamOkButton();
-    drawButton(back.x, back.y, back.w, back.h, choicesOpen(), texts.teamBack, NO_ACCESS_KEY);
-    drawButton(ok.x, ok.y, ok.w, ok.h, choicesOpen(), "OK", NO_ACCESS_KEY);
+    drawCheckControl(CONTROL_EVENT_CARDS, raceSetup.eventCardsOn);
+    drawControl(CONTROL_TEAM_BACK);
+    drawControl(CONTROL_TEAM_OK);
 }

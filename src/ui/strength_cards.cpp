@@ -1,9 +1,9 @@
 #include "ui/strength_cards.h"
 
 #include "race/race_state.h"
-#include "ui/controls.h"
 #include "ui/layout.h"
 #include "ui/models.h"
+#include "ui/places.h"
 #include "ui/text.h"
 #include "ui/widgets.h"
 

@@ -8,7 +8,7 @@
 #include "store/race_file.h"
 #include "support/own_folder.h"
 #include "support/scripted_rand.h"
-#include "ui/controls.h"
+#include "screen/support/old_places.h"
 #include "ui/event_texts.h"
 #include "ui/texts.h"
 

@@ -5,7 +5,7 @@
 #include "screen/support/player.h"
 #include "store/settings_file.h"
 #include "support/own_folder.h"
-#include "ui/controls.h"
+#include "screen/support/old_places.h"
 #include "ui/layout.h"
 #include "ui/manual_pages.h"
 #include "ui/texts.h"

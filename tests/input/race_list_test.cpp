@@ -7,7 +7,7 @@
 #include "screen/support/player.h"
 #include "store/race_file.h"
 #include "support/own_folder.h"
-#include "ui/controls.h"
+#include "screen/support/old_places.h"
 #include "ui/frame.h"
 #include "ui/layout.h"
 #include "ui/race_list.h"

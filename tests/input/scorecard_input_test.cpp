@@ -8,7 +8,7 @@
 #include "support/fake_host.h"
 #include "support/own_folder.h"
 #include "support/races.h"
-#include "ui/controls.h"
+#include "screen/support/old_places.h"
 #include "ui/texts.h"
 
 #include <GL/freeglut.h>

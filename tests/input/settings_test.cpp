@@ -8,7 +8,7 @@
 #include "store/settings_file.h"
 #include "support/fake_host.h"
 #include "support/own_folder.h"
-#include "ui/controls.h"
+#include "screen/support/old_places.h"
 #include "ui/layout.h"
 #include "ui/settings_screen.h"
 

@@ -5,7 +5,7 @@
 #include "screen/support/gl_window.h"
 #include "screen/support/scenes.h"
 #include "support/own_folder.h"
-#include "ui/controls.h"
+#include "screen/support/old_places.h"
 #include "ui/event_texts.h"
 #include "ui/frame.h"
 #include "ui/layout.h"

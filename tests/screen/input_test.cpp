@@ -9,7 +9,7 @@
 #include "screen/support/player.h"
 #include "support/fake_host.h"
 #include "support/scripted_rand.h"
-#include "ui/controls.h"
+#include "screen/support/old_places.h"
 #include "ui/layout.h"
 #include "ui/texts.h"
 

@@ -11,7 +11,7 @@
 #include "screen/support/gl_window.h"
 #include "store/race_file.h"
 #include "support/fake_host.h"
-#include "ui/controls.h"
+#include "screen/support/old_places.h"
 #include "ui/frame.h"
 #include "ui/layout.h"
 

@@ -8,7 +8,7 @@
 #include "screen/support/gl_window.h"
 #include "screen/support/player.h"
 #include "support/fake_host.h"
-#include "ui/controls.h"
+#include "screen/support/old_places.h"
 #include "ui/layout.h"
 #include "ui/reshape.h"
 

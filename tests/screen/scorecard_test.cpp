@@ -5,7 +5,7 @@
 #include "race/scoring.h"
 #include "screen/support/gl_window.h"
 #include "support/races.h"
-#include "ui/controls.h"
+#include "screen/support/old_places.h"
 #include "ui/frame.h"
 #include "ui/layout.h"
 #include "ui/score_pages.h"

@@ -14,7 +14,7 @@
 #include "store/race_file.h"
 #include "support/fake_host.h"
 #include "support/own_folder.h"
-#include "ui/controls.h"
+#include "screen/support/old_places.h"
 #include "ui/layout.h"
 #include "ui/manual_pages.h"
 #include "ui/race_list.h"

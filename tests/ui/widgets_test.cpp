@@ -1,5 +1,5 @@
 #include "ui/cameras.h"
-#include "ui/controls.h"
+#include "screen/support/old_places.h"
 #include "ui/layout.h"
 #include "ui/models.h"
 

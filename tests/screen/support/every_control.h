@@ -1,7 +1,7 @@
 #pragma once
 
 #include "race/race_state.h"
-#include "ui/controls.h"
+#include "screen/support/old_places.h"
 
 // Every rectangle of the controls by its name, for tests that try them all.
 

@@ -3,7 +3,7 @@
 #include "app/game_state.h"
 #include "input/keyboard.h"
 #include "input/mouse.h"
-#include "ui/controls.h"
+#include "screen/support/old_places.h"
 #include "ui/layout.h"
 
 #include <GL/freeglut.h>
