@@ -18,6 +18,7 @@
 #include "ui/dialogs.h"
 #include "ui/layout.h"
 #include "ui/places.h"
+#include "ui/scale.h"
 
 #include <GL/freeglut.h>
 
@@ -35,7 +36,7 @@ struct Point {
 
 static Point inDrawingArea(int x, int y)
 {
-    return {x - layout.viewX, y - layout.viewY};
+    return {toLogical(x) - layout.viewX, toLogical(y) - layout.viewY};
 }
 
 // Does what the control there is for, if one acts at this moment, and tells which it was.

@@ -67,6 +67,15 @@ static int numberIn(int field)
     return std::atoi(settingsScreen.settingsFieldText[field].c_str());
 }
 
+// Whether the ratio of the settings gives another drawing area than the one laid out.
+static bool drawingAreaChanges()
+{
+    const int shownW = layout.viewW;
+    const int shownH = layout.viewH;
+    updateDrawingArea();
+    return layout.viewW != shownW || layout.viewH != shownH;
+}
+
 // The file failing to be written is no reason to refuse the settings for this run.
 void confirmSettings()
 {
@@ -76,7 +85,7 @@ void confirmSettings()
     fillSettingsFields(settings);
     settingsScreen.guessGivenUp = false;
     writeSettings();
-    if (ratioDiffers(settingsBackup.ratioW, settingsBackup.ratioH))
+    if (drawingAreaChanges() || ratioDiffers(settingsBackup.ratioW, settingsBackup.ratioH))
         layOutAnew();
     closeOverlay();
 }
@@ -91,9 +100,7 @@ void cancelSettings()
         ratioChosenByProgram = std::exchange(settingsScreen.guessGivenUp, false);
     }
     fillSettingsFields(settings);
-    const int shownW = layout.viewW;
-    updateDrawingArea();
-    if (layout.viewW != shownW)
+    if (drawingAreaChanges())
         layOutAnew();
     closeOverlay();
 }

@@ -7,11 +7,12 @@
 #include "race/race_state.h"
 #include "race/rider_place.h"
 #include "race/start_grid.h"
+#include "ui/letters.h"
 #include "ui/matrices.h"
 #include "ui/models.h"
 #include "ui/widgets.h"
 
-#include <GL/freeglut.h>
+#include <GL/gl.h>
 
 #include <string>
 
@@ -71,8 +72,7 @@ static void drawNumberLabel(int index)
         glRasterPos2f(rider.x + 12.0f, rider.y - 8.0f);
     else
         glRasterPos2f(rider.x - 12.0f, rider.y + 8.0f);
-    for (const char digit : std::to_string(riderNumber(index)))
-        glutBitmapCharacter(GLUT_BITMAP_HELVETICA_12, digit);
+    drawLetters(std::to_string(riderNumber(index)), FONT_BODY);
 }
 
 static void drawPawns(PawnShape shape)

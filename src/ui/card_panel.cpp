@@ -97,8 +97,8 @@ static void drawTabs()
     for (int team = 0; team < TEAM_COUNT; ++team) {
         const Rect tab = placeOf(static_cast<Control>(CONTROL_TAB_1 + team));
         setColour(team == view.shownTeam ? WHITE : disabledGrey);
-        drawText(tab.x + tab.w * 0.5f, tab.y + tab.h * 0.6f, ALIGN_CENTRE, raceSetup.teamName[team],
-                 FONT_TITLE);
+        drawText(tab.x + tab.w * 0.5f, tab.y + tab.h * 0.6f, ALIGN_CENTRE,
+                 cutToWidth(raceSetup.teamName[team], tab.w - 4.0f, FONT_TITLE), FONT_TITLE);
     }
 }
 

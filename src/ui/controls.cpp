@@ -12,6 +12,7 @@
 #include "ui/places.h"
 #include "ui/race_list.h"
 #include "ui/score_pages.h"
+#include "ui/text.h"
 #include "ui/texts.h"
 #include "ui/widgets.h"
 
@@ -38,8 +39,10 @@ struct Label {
 };
 
 enum Traits : unsigned {
-    CONFIRMS = 1, // Enter, Space and O press it
-    ONCE = 2,     // another question like it may come in its place
+    CONFIRMS = 1,   // Enter, Space and O press it
+    ONCE = 2,       // another question like it may come in its place
+    GROWS_LEFT = 4, // for a label that is too long
+    GROWS_RIGHT = 8,
 };
 
 struct Row {
@@ -294,12 +297,29 @@ template <typename Choose> Control firstLive(Choose choose)
 
 } // namespace
 
+// A button is as wide as its label needs, also where the window is small and letters aren't. It
+// grows to both sides unless another button stands close to one.
+static Rect withRoomForLabel(Rect place, const Row& row)
+{
+    constexpr float margin = 2.0f;
+    const float labelW = static_cast<float>(textWidth(controlLabel(row.control), FONT_BODY));
+    const float lacking = labelW + 2.0f * margin - place.w;
+    if (lacking <= 0.0f)
+        return place;
+    const float toLeft = (row.traits & GROWS_LEFT) != 0    ? lacking
+                         : (row.traits & GROWS_RIGHT) != 0 ? 0.0f
+                                                           : lacking * 0.5f;
+    return {place.x - toLeft, place.y, place.w + lacking, place.h};
+}
+
 Rect placeOf(Control control)
 {
-    const Place& place = rows[control].place;
+    const Row& row = rows[control];
+    const Place& place = row.place;
     if (place.workedOut)
         return place.workedOut();
-    return {layout.*place.x, layout.*place.y, layout.*place.w, layout.*place.h};
+    return withRoomForLabel({layout.*place.x, layout.*place.y, layout.*place.w, layout.*place.h},
+                            row);
 }
 
 Moment momentOf(Control control)

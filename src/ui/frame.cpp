@@ -7,6 +7,7 @@
 #include "ui/matrices.h"
 #include "ui/positions.h"
 #include "ui/race_view.h"
+#include "ui/scale.h"
 #include "ui/scorecard.h"
 #include "ui/screens.h"
 #include "ui/text.h"
@@ -74,6 +75,7 @@ void drawFrame()
     if (!windowOpen)
         return;
     glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
+    setLineWidth(1.0f);
     if (boardVisible())
         drawBoardLayer();
     useScreenLayer();

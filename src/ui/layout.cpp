@@ -3,6 +3,7 @@
 #include "app/settings.h"
 #include "app/table.h"
 
+#include <algorithm>
 #include <cmath>
 
 Layout layout;
@@ -156,7 +157,7 @@ static void layoutTeamSetup(Layout& l, float viewW, float viewH)
     l.teamNameY     = viewH * 0.4f;
     l.teamNameW     = 97.0f;
     l.teamNameH     = 15.0f;
-    l.teamRowStep   = viewH * 0.01f + 15.0f;
+    l.teamRowStep   = std::max(viewH * 0.01f + 15.0f, viewH * 0.02f + 1.0f);
     l.teamCheckX    = l.teamNameX + l.teamNameW * 1.2f;
     l.teamCheckSize = viewH * 0.02f;
     l.teamOkX       = viewW * 0.5f - l.buttonW * 0.5f;
@@ -253,7 +254,7 @@ static void layoutRaceList(Layout& l, float viewW, float viewH)
     l.raceListX      = viewW * 0.2f;
     l.raceListY      = viewH * 0.2f;
     l.raceListRowH   = 12.0f;
-    l.raceListColW   = 120.0f;
+    l.raceListColW   = std::min(120.0f, (viewW - l.raceListX - l.buttonW) / LIST_COLUMNS);
     l.raceListInset  = 4.0f;
     l.raceTeamRowH   = viewH * 0.03f;
     l.listPrevX      = l.raceListX - l.buttonW;
@@ -294,7 +295,7 @@ static void layoutScorecard(Layout& l, float viewW, float viewH)
     l.scorecardW       = viewW * 0.4f;
     l.scorecardPicH    = l.scorecardW * 1419.0f / 1072.0f;
     l.scorecardX       = viewW * 0.5f - l.scorecardW * 0.5f;
-    l.scorecardY       = viewH * 0.75f - l.scorecardPicH;
+    l.scorecardY       = std::max(viewH * 0.75f - l.scorecardPicH, l.titleBarH);
     l.scorecardH       = l.scorecardPicH + viewH * 1.5f * 0.03f;
     l.exportButtonW    = viewW * 0.08f;
     l.stageArrowW      = viewW * 0.016f;
@@ -363,18 +364,25 @@ float aspectFix()
     return (static_cast<float>(layout.viewW) / 5.0f) / (static_cast<float>(layout.viewH) / 4.0f);
 }
 
-// The drawing area keeps the physical shape 5:4: all of the height and, on a wider monitor, the
-// part of the width that a 5:4 monitor of the same height would have.
+// The drawing area keeps the physical shape 5:4: where the program chose, simply the largest that
+// the window holds. A ratio that somebody chose says how the monitor's pixels are shaped; of a
+// window wider than 16:10 the middle 16:10 count, of one narrower than 5:4 the middle 5:4.
 void updateDrawingArea()
 {
-    const double ratioW = ratioKnown() ? settings.ratioW : SCREEN_RATIOS[0].w;
-    const double ratioH = ratioKnown() ? settings.ratioH : SCREEN_RATIOS[0].h;
-    const double share = 1.0 - (ratioW - 5.0 * ratioH / 4.0) / ratioW;
+    constexpr double least = 1e-6; // so that no whole number is missed by a hair
+    const double windowW = layout.windowW;
+    const double windowH = layout.windowH;
+    const double countedW = std::min(windowW, windowH * 1.6);
+    const double countedH = std::min(windowH, windowW * 0.8);
+    double viewW = std::min(windowW, windowH * 1.25);
+    if (ratioKnown() && !ratioChosenByProgram)
+        viewW =
+            countedW * (1.0 - (settings.ratioW - 5.0 * settings.ratioH / 4.0) / settings.ratioW);
 
-    layout.viewW = static_cast<int>(layout.windowW * share);
-    layout.viewH = layout.windowH;
+    layout.viewW = static_cast<int>(viewW + least);
+    layout.viewH = static_cast<int>(countedH + least);
     layout.viewX = static_cast<int>((layout.windowW - layout.viewW) * 0.5);
-    layout.viewY = 0;
+    layout.viewY = static_cast<int>((layout.windowH - layout.viewH) * 0.5);
 }
 
 void computeLayout(int windowW, int windowH)

@@ -8,6 +8,7 @@
 #include "ui/layout.h"
 #include "ui/models.h"
 #include "ui/picture_strip.h"
+#include "ui/scale.h"
 #include "ui/textures.h"
 #include "ui/widgets.h"
 
@@ -73,8 +74,7 @@ static void loadPictureLists()
 static bool sizeSettled()
 {
     static const int firstAsked = glutGet(GLUT_ELAPSED_TIME);
-    const bool fullScreen = layout.windowW >= glutGet(GLUT_SCREEN_WIDTH) &&
-                            layout.windowH >= glutGet(GLUT_SCREEN_HEIGHT);
+    const bool fullScreen = windowCovers(glutGet(GLUT_SCREEN_WIDTH), glutGet(GLUT_SCREEN_HEIGHT));
     return fullScreen || glutGet(GLUT_ELAPSED_TIME) - firstAsked > SETTLING_MS;
 }
 

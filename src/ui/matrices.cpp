@@ -4,6 +4,7 @@
 #include "board/section_shapes.h"
 #include "ui/cameras.h"
 #include "ui/layout.h"
+#include "ui/scale.h"
 
 #include <GL/glu.h>
 
@@ -49,11 +50,6 @@ void computeMatrices()
     matrices.modelviewMatrices[0] = matrixOnTop(GL_MODELVIEW_MATRIX);
     glScaled(1.0, -1.0, 1.0);
     matrices.modelviewMatrices[1] = matrixOnTop(GL_MODELVIEW_MATRIX);
-
-    matrices.boardViewport = {
-        static_cast<int>(layout.boardViewX), static_cast<int>(layout.boardViewY),
-        static_cast<int>(layout.boardViewW), static_cast<int>(layout.boardViewH)};
-    matrices.screenViewport = {0, 0, layout.windowW, height};
 }
 
 static void loadMatrices(const Matrix& projection, const Matrix& modelview)
@@ -66,8 +62,10 @@ static void loadMatrices(const Matrix& projection, const Matrix& modelview)
 
 void useBoardLayer()
 {
-    const Viewport& v = matrices.boardViewport;
-    glViewport(v.x + layout.viewX, v.y, v.width, v.height);
+    const int barBelow = layout.windowH - layout.viewY - layout.viewH;
+    setViewport(layout.boardViewX + static_cast<float>(layout.viewX),
+                layout.boardViewY + static_cast<float>(barBelow), layout.boardViewW,
+                layout.boardViewH);
     const bool flat = view.viewMode == VIEW_FLAT;
     loadMatrices(matrices.projectionMatrices[view.cameraIndex],
                  matrices.modelviewMatrices[flat ? 0 : 1]);
@@ -79,8 +77,7 @@ void useBoardLayer()
 
 void useScreenLayer()
 {
-    const Viewport& v = matrices.screenViewport;
-    glViewport(v.x, v.y, v.width, v.height);
+    setViewport(0.0f, 0.0f, static_cast<float>(layout.windowW), static_cast<float>(layout.windowH));
     loadMatrices(matrices.projectionMatrices[0], matrices.modelviewMatrices[0]);
     glDisable(GL_DEPTH_TEST);
     glTranslated(layout.viewX, layout.viewY, 0.0);

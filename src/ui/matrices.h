@@ -5,13 +5,6 @@
 // The two layers of a frame. The board layer has a viewport of its own and coordinates of the board
 // picture; the screen layer is everything else, in pixels of the drawing area.
 
-struct Viewport {
-    int x = 0;
-    int y = 0; // from the bottom of the window
-    int width = 0;
-    int height = 0;
-};
-
 using Matrix = Table<double, 16>;
 
 constexpr int CAMERA_SLOT_COUNT = 11;
@@ -20,8 +13,6 @@ struct Matrices {
     // 0 the screen layer, 1 and 2 the flat views, 3 to 10 the cameras of the perspective view.
     Table<Matrix, CAMERA_SLOT_COUNT> projectionMatrices{};
     Table<Matrix, 2> modelviewMatrices{}; // 0 the identity, 1 y turned round for the cameras
-    Viewport boardViewport;               // without layout.viewX
-    Viewport screenViewport;
 };
 
 extern Matrices matrices;

@@ -1,6 +1,10 @@
 #include "ui/places.h"
 
 #include "ui/layout.h"
+#include "ui/text.h"
+#include "ui/texts.h"
+
+#include <algorithm>
 
 static float indexed(int i)
 {
@@ -75,14 +79,28 @@ Rect raceNameBox()
             layout.stageRowH};
 }
 
+// A field of the settings stands clear of its label in every language.
+static float endOfFieldLabel(std::string_view label)
+{
+    constexpr float gap = 4.0f;
+    return settingsLabelX() + static_cast<float>(textWidth(label, FONT_BODY)) + gap;
+}
+
+float settingsLabelX()
+{
+    return layout.movementRadioX + layout.settingsRowH * 1.5f;
+}
+
 Rect settingsField(int field)
 {
     const float rowH = layout.settingsRowH;
     if (field == 2)
-        return {layout.stepTimeFieldX, layout.stepwiseRadioY + rowH * 0.5f, layout.settingsFieldW,
-                rowH};
+        return {std::max(layout.stepTimeFieldX, endOfFieldLabel(texts.timeBetweenSteps)),
+                layout.stepwiseRadioY + rowH * 0.5f, layout.settingsFieldW, rowH};
     const float rows = field == 0 ? 0.5f : 1.7f;
-    return {layout.delayFieldX, layout.smoothRadioY + rowH * rows, layout.settingsFieldW, rowH};
+    return {
+        std::max(layout.delayFieldX, endOfFieldLabel(field == 0 ? texts.delay : texts.distance)),
+        layout.smoothRadioY + rowH * rows, layout.settingsFieldW, rowH};
 }
 
 // Two pictures in a row.

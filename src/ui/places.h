@@ -27,6 +27,7 @@ Rect manualFrame();
 Rect teamNameBox(int team);
 Rect raceNameBox();
 Rect settingsField(int field); // 0 step time, 1 step distance, 2 step delay
+float settingsLabelX();        // the left end of their labels
 
 // Courses.
 Rect coursePicture(int course);

@@ -9,6 +9,7 @@
 #include "ui/models.h"
 #include "ui/pawns.h"
 #include "ui/places.h"
+#include "ui/scale.h"
 #include "ui/text.h"
 #include "ui/texts.h"
 #include "ui/widgets.h"
@@ -102,12 +103,12 @@ static void drawLineToBoard(int index)
     const Spot to = boardSpot(rider);
     constexpr float WIDTH = 2.0f;
     setColour(rider.offBoard ? teamColourDim[team] : teamColour[team]);
-    glLineWidth(WIDTH);
+    setLineWidth(WIDTH);
     glBegin(GL_LINES);
     glVertex2f(from.x, from.y);
     glVertex2f(to.x, to.y);
     glEnd();
-    glLineWidth(1.0f);
+    setLineWidth(1.0f);
 }
 
 static void drawBeside(Spot pawn, Spot offset, const std::string& text)

@@ -76,8 +76,10 @@ static void drawTeamBox()
     const float y = layout.hudY + layout.teamBoxH * 0.5f;
     drawPawnAt(race.currentRider, layout.teamBoxX + 14.0f, y);
     setColour(WHITE);
-    drawText(layout.teamBoxX + 35.0f, y, ALIGN_LEFT,
-             raceSetup.teamName[riderTeam(race.currentRider)]);
+    const float nameX = layout.teamBoxX + 35.0f;
+    drawText(nameX, y, ALIGN_LEFT,
+             cutToWidth(raceSetup.teamName[riderTeam(race.currentRider)],
+                        placeOf(CONTROL_VIEW).x - nameX - 2.0f));
 }
 
 // The throws for the order. A team that lost a tie stands grey and without its throw.

@@ -2,18 +2,21 @@
 
 #include "app/host.h"
 #include "ui/layout.h"
+#include "ui/letters.h"
 #include "ui/loading.h"
 #include "ui/manual_pages.h"
 #include "ui/matrices.h"
 #include "ui/models.h"
+#include "ui/scale.h"
 
-#include <GL/freeglut.h>
+#include <GL/gl.h>
 
 static bool listsBuilt = false;
 
 // A shape in a list keeps the size it was compiled with.
 static void buildAllLists()
 {
+    prepareLetters();
     glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
     buildDisplayLists();
     reloadPictures();
@@ -21,11 +24,9 @@ static void buildAllLists()
     listsBuilt = true;
 }
 
-void onReshape(int width, int height)
+static void layOut()
 {
-    if (width != layout.windowW || height != layout.windowH)
-        listsBuilt = false;
-    computeLayout(width, height);
+    computeLayout(logicalWindowW(), logicalWindowH());
     paginateManual();
     computeMatrices();
     glClearColor(0.0f, 0.0f, 0.0f, 0.5f);
@@ -33,8 +34,18 @@ void onReshape(int width, int height)
         buildAllLists();
 }
 
+void onReshape(int width, int height)
+{
+    const int oldScale = scale();
+    takeWindowSize(width, height);
+    if (scale() != oldScale || logicalWindowW() != layout.windowW ||
+        logicalWindowH() != layout.windowH)
+        listsBuilt = false;
+    layOut();
+}
+
 void layOutAnew()
 {
     listsBuilt = false;
-    onReshape(layout.windowW, layout.windowH);
+    layOut();
 }

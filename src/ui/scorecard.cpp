@@ -17,6 +17,7 @@
 
 #include <GL/gl.h>
 
+#include <algorithm>
 #include <string>
 
 // Places on a page are told in units of the paper sheet that the picture shows.
@@ -39,6 +40,11 @@ static float sheetY(float v)
 static void write(float u, float v, Align align, std::string_view text, Font font = FONT_BODY)
 {
     drawText(sheetX(u), sheetY(v), align, text, font);
+}
+
+static float widthOf(std::string_view text)
+{
+    return static_cast<float>(textWidth(text, FONT_BODY));
 }
 
 static float times(float step, int i)
@@ -99,9 +105,15 @@ static void drawTeamOrder(const GeneralPoints& sums)
         const float v = 200.0f + times(60.0f, i);
         const int team = order[i];
         write(270.0f, v, ALIGN_LEFT, std::to_string(i + 1));
-        write(300.0f, v, ALIGN_LEFT, scorecardTeamName(team));
-        write(610.0f, v, ALIGN_LEFT, teamNumbersText(team));
-        write(810.0f, v, ALIGN_RIGHT, std::to_string(sums.team[team]));
+        const std::string numbers = teamNumbersText(team);
+        const std::string sum = std::to_string(sums.team[team]);
+        write(300.0f, v, ALIGN_LEFT,
+              cutToWidth(scorecardTeamName(team), sheetX(610.0f) - sheetX(300.0f) - 4.0f));
+        write(610.0f, v, ALIGN_LEFT, numbers);
+        // On a small sheet a sum of four digits would run into the numbers.
+        const float numbersEnd = sheetX(610.0f) + widthOf(numbers);
+        const float right = std::max(sheetX(810.0f), numbersEnd + 6.0f + widthOf(sum));
+        drawText(right, sheetY(v), ALIGN_RIGHT, sum);
     }
 }
 

@@ -7,6 +7,7 @@
 #include "ui/layout.h"
 #include "ui/models.h"
 #include "ui/places.h"
+#include "ui/scale.h"
 #include "ui/text.h"
 #include "ui/texts.h"
 #include "ui/widgets.h"
@@ -20,10 +21,10 @@ static void drawHoverFrame(const Rect& picture)
     const float left = std::trunc(picture.x - 5.0f);
     const float top = std::trunc(picture.y - 5.0f);
     setColour(WHITE);
-    glLineWidth(2.0f);
+    setLineWidth(2.0f);
     outlineRect(left, top, std::trunc(picture.x + picture.w + 5.0f) - left,
                 std::trunc(picture.y + picture.h + 38.0f) - top);
-    glLineWidth(1.0f);
+    setLineWidth(1.0f);
 }
 
 static void drawCourse(int index)

@@ -33,7 +33,7 @@ static void drawField(int field, const std::string& label, const std::string& un
     const bool open = settingsFieldOpen(field);
     const float y = box.y + box.h * 0.5f;
     setColour(open ? WHITE : disabledGrey);
-    drawText(layout.movementRadioX + layout.settingsRowH * 1.5f, y, ALIGN_LEFT, label);
+    drawText(settingsLabelX(), y, ALIGN_LEFT, label);
     drawText(box.x + box.w * 1.1f, y, ALIGN_LEFT, unit);
     drawTextBox(static_cast<int>(box.x), static_cast<int>(box.y), static_cast<int>(box.w),
                 static_cast<int>(box.h), settingsScreen.settingsFieldText[field],

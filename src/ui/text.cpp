@@ -1,13 +1,12 @@
 #include "ui/text.h"
 
-#include "ui/glyphs.h"
+#include "ui/letters.h"
 
-#include <GL/glut.h>
+#include <GL/gl.h>
 
 #include <algorithm>
 
 static constexpr int CHAR_WIDTH_OTHER = 6;
-static constexpr int SERIF_GLYPH_ADVANCE = 12;
 static constexpr float BASE_LINE_DROP = 3.0f;
 
 static std::uint8_t codeOf(char c)
@@ -54,44 +53,8 @@ static float leftEnd(float x, Align align, std::string_view text, Font font)
     return x - (align == ALIGN_CENTRE ? width * 0.5f : width) + nudge;
 }
 
-static void* glutFont(Font font)
-{
-    switch (font) {
-    case FONT_FIXED:
-        return GLUT_BITMAP_8_BY_13;
-    case FONT_SERIF:
-        return GLUT_BITMAP_TIMES_ROMAN_24;
-    case FONT_TITLE:
-        return GLUT_BITMAP_HELVETICA_18;
-    case FONT_BODY:
-        break;
-    }
-    return GLUT_BITMAP_HELVETICA_12;
-}
-
-static int glyphAdvance(std::uint8_t code, Font font)
-{
-    if (font == FONT_SERIF)
-        return SERIF_GLYPH_ADVANCE;
-    return font == FONT_BODY ? bodyWidths[code] : titleWidths[code];
-}
-
-static void drawGlyph(const Glyph& glyph, int advance)
-{
-    glBitmap(glyph.width, glyph.height, static_cast<float>(glyph.origin.x),
-             static_cast<float>(glyph.origin.y), static_cast<float>(advance), 0.0f,
-             glyph.bits.items);
-}
-
 void drawText(float x, float y, Align align, std::string_view text, Font font)
 {
     glRasterPos2f(leftEnd(x, align, text, font), y + BASE_LINE_DROP);
-    glPixelStorei(GL_UNPACK_ALIGNMENT, 1);
-    for (const char c : text) {
-        const std::uint8_t code = codeOf(c);
-        if (const Glyph* glyph = findGlyph(code, font))
-            drawGlyph(*glyph, glyphAdvance(code, font));
-        else
-            glutBitmapCharacter(glutFont(font), baseLetter(code));
-    }
+    drawLetters(text, font);
 }

@@ -159,8 +159,9 @@ int countPixels(const Image& image, const Rect& rect, Pixel pixel)
 
 ScreenPoint seenAt(float boardX, float boardY)
 {
-    const Viewport& v = matrices.boardViewport;
-    const GLint viewport[] = {v.x + layout.viewX, v.y, v.width, v.height};
+    const GLint viewport[] = {
+        static_cast<int>(layout.boardViewX) + layout.viewX, static_cast<int>(layout.boardViewY),
+        static_cast<int>(layout.boardViewW), static_cast<int>(layout.boardViewH)};
     const Matrix& modelview = matrices.modelviewMatrices[view.viewMode == VIEW_FLAT ? 0 : 1];
     double x = 0.0;
     double y = 0.0;
