@@ -6,8 +6,11 @@
 # Compiles and links the game.
 BUILD_PACKAGES=(
     g++ make cmake
-    freeglut3-dev libgl-dev libglu1-mesa-dev libjpeg62-turbo-dev libx11-dev
+    freeglut3-dev libgl-dev libglu1-mesa-dev libjpeg-dev libx11-dev
 )
+
+# Makes a package of it.
+PACKAGE_PACKAGES=(dpkg-dev gzip)
 
 # Shows its window: Mesa's drivers, and xdpyinfo and xprop, which tell whether a display will do.
 RUN_PACKAGES=(libgl1-mesa-dri x11-utils)

@@ -1,6 +1,7 @@
 #include "app/game_state.h"
 #include "app/host.h"
 #include "app/x11_platform.h"
+#include "app/x11_window.h"
 #include "board/animation.h"
 #include "input/keyboard.h"
 #include "input/mouse.h"
@@ -61,6 +62,7 @@ int main(int argc, char** argv)
     std::srand(static_cast<unsigned>(std::time(nullptr)));
     openWindow(&argc, argv);
     registerCallbacks();
+    introduceWindow();
     reportHeldKeysOnce();
     reportShiftTab();
     glutFullScreen();
