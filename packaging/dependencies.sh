@@ -6,7 +6,7 @@
 # Compiles and links the game.
 BUILD_PACKAGES=(
     g++ make cmake
-    freeglut3-dev libgl-dev libglu1-mesa-dev libjpeg-dev libx11-dev
+    freeglut3-dev libgl-dev libglu1-mesa-dev libjpeg-dev libx11-dev libxrandr-dev
 )
 
 # Makes a package of it.

@@ -65,7 +65,8 @@ int main(int argc, char** argv)
     introduceWindow();
     reportHeldKeysOnce();
     reportShiftTab();
-    glutFullScreen();
+    if (!coverMainMonitor())
+        glutFullScreen();
     if (!loadTextures())
         return 0;
     readSettings();

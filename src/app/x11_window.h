@@ -1,6 +1,13 @@
 #pragma once
 
+// What a window has to say for itself on X11. On other platforms these do nothing. Call them once
+// there is a window.
+
 // Tells the desktop whose window this is: its class, by which a desktop finds the entry in its
-// menu, its title, and its icon in four sizes. Call once there is a window; on other platforms than
-// X11 it does nothing.
+// menu, its title, and its icon in four sizes.
 void introduceWindow();
+
+// Where there are several monitors, puts the window on the main one, for a window manager to make
+// it full-screen there. True if there is no window manager and the window covers that monitor
+// already: a full screen of GLUT's would cover all of them.
+bool coverMainMonitor();
