@@ -32,6 +32,7 @@ CHECK_PACKAGES=(
 
 mayInstall=yes # --no-install says no
 listsFresh=no  # one look at the archive is enough for a run
+declare -A told=() # packages that somebody without apt-get has heard of
 
 # Prints those of the given packages that are not installed, one a line.
 missingPackages()
@@ -66,12 +67,27 @@ These packages of Debian are missing. Please have them installed, then start thi
 MESSAGE
 }
 
+# What a person is told who has no apt-get, each package once.
+tellDebianNames()
+{
+    local package
+    local news=()
+    for package in "$@"; do
+        [ -n "${told[$package]:-}" ] || news+=("$package")
+        told[$package]=yes
+    done
+    if [ ${#news[@]} -gt 0 ]; then
+        echo "This system has no apt-get: going on in the hope that all that is needed is there."
+        echo "That is, by Debian's names: ${news[*]}"
+    fi
+}
+
 # Installs those of the given packages that are missing and says so first. Ends the script when that
 # can't be done. On a system without Debian's packages it goes on and leaves the rest to the build.
 requirePackages()
 {
     if ! command -v dpkg-query > /dev/null || ! command -v apt-get > /dev/null; then
-        echo "This system has no apt-get: going on in the hope that all that is needed is there."
+        tellDebianNames "$@"
         return
     fi
 
