@@ -22,17 +22,24 @@ DISPLAY_PACKAGES=(xvfb xauth openbox)
 BROWSER_PACKAGES=(x11vnc novnc websockify)
 
 # Everything else that the check runs: a second compiler with its sanitizers (and llvm for the names
-# in what they report), the linters, the libraries of tests, benchmarks and the painter, and the
-# hands and eyes of the window tests.
+# in what they report), the linters, the libraries of tests, benchmarks and the painter, the hands
+# and eyes of the window tests, and what reads a package's descriptions.
 CHECK_PACKAGES=(
     clang libclang-rt-14-dev llvm clang-format clang-tidy shellcheck
     pkg-config libcairo2-dev libgtest-dev libbenchmark-dev
     xdotool imagemagick procps
+    desktop-file-utils appstream
 )
 
 mayInstall=yes # --no-install says no
 listsFresh=no  # one look at the archive is enough for a run
 declare -A told=() # packages that somebody without apt-get has heard of
+
+# Whether this system installs with Debian's tools.
+hasPackages()
+{
+    command -v dpkg-query > /dev/null && command -v apt-get > /dev/null
+}
 
 # Prints those of the given packages that are not installed, one a line.
 missingPackages()
@@ -86,7 +93,7 @@ tellDebianNames()
 # can't be done. On a system without Debian's packages it goes on and leaves the rest to the build.
 requirePackages()
 {
-    if ! command -v dpkg-query > /dev/null || ! command -v apt-get > /dev/null; then
+    if ! hasPackages; then
         tellDebianNames "$@"
         return
     fi
