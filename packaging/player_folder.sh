@@ -16,7 +16,7 @@ enterPlayFolder()
     if [ -n "$playFolder" ] && mkdir -p "$playFolder" && cd "$playFolder" && linkPictures "$1"; then
         return
     fi 2> /dev/null
-    echo "gravelon: can't write to ${playFolder:-a home folder (HOME is not set)}," \
+    echo "gravelon: can't write to ${playFolder:-the home folder (HOME is not set)}," \
         "where the game keeps settings, courses and races." >&2
     return 1
 }
