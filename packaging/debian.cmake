@@ -1,6 +1,6 @@
 # The Debian package, which "packaging/make_package.sh" builds. Whoever builds it from the same
 # sources gets the same bytes: times are that of the release, unless SOURCE_DATE_EPOCH says
-# otherwise, and rights don't depend on who builds.
+# otherwise.
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGING_INSTALL_PREFIX ${CMAKE_INSTALL_PREFIX})
 set(CPACK_STRIP_FILES ON)
@@ -21,8 +21,6 @@ set(CPACK_DEBIAN_PACKAGE_SECTION games)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
-set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
-    OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
 
 execute_process(COMMAND date -u -d ${GRAVELON_RELEASE_DATE} +%s
     OUTPUT_VARIABLE release_second OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)

@@ -2,6 +2,7 @@
 # Installs what is missing, builds the Debian package and says where it lies.
 set -eu
 unset CDPATH
+umask 022 # the package's folders take it over
 cd "$(dirname "$0")/.."
 . packaging/dependencies.sh
 . packaging/building.sh
