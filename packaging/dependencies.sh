@@ -6,8 +6,11 @@
 # Compiles and links the game.
 BUILD_PACKAGES=(
     g++ make cmake
-    freeglut3-dev libgl-dev libglu1-mesa-dev libjpeg62-turbo-dev libx11-dev
+    freeglut3-dev libgl-dev libglu1-mesa-dev libjpeg-dev libx11-dev libxrandr-dev
 )
+
+# Makes a package of it.
+PACKAGE_PACKAGES=(dpkg-dev gzip)
 
 # Shows its window: Mesa's drivers, and xdpyinfo and xprop, which tell whether a display will do.
 RUN_PACKAGES=(libgl1-mesa-dri x11-utils)
@@ -19,16 +22,24 @@ DISPLAY_PACKAGES=(xvfb xauth openbox)
 BROWSER_PACKAGES=(x11vnc novnc websockify)
 
 # Everything else that the check runs: a second compiler with its sanitizers (and llvm for the names
-# in what they report), the linters, the libraries of tests, benchmarks and the painter, and the
-# hands and eyes of the window tests.
+# in what they report), the linters, the libraries of tests, benchmarks and the painter, the hands
+# and eyes of the window tests, and what reads a package's descriptions.
 CHECK_PACKAGES=(
     clang libclang-rt-14-dev llvm clang-format clang-tidy shellcheck
     pkg-config libcairo2-dev libgtest-dev libbenchmark-dev
     xdotool imagemagick procps
+    desktop-file-utils appstream
 )
 
 mayInstall=yes # --no-install says no
 listsFresh=no  # one look at the archive is enough for a run
+declare -A told=() # packages that somebody without apt-get has heard of
+
+# Whether this system installs with Debian's tools.
+hasPackages()
+{
+    command -v dpkg-query > /dev/null && command -v apt-get > /dev/null
+}
 
 # Prints those of the given packages that are not installed, one a line.
 missingPackages()
@@ -63,12 +74,27 @@ These packages of Debian are missing. Please have them installed, then start thi
 MESSAGE
 }
 
+# What a person is told who has no apt-get, each package once.
+tellDebianNames()
+{
+    local package
+    local news=()
+    for package in "$@"; do
+        [ -n "${told[$package]:-}" ] || news+=("$package")
+        told[$package]=yes
+    done
+    if [ ${#news[@]} -gt 0 ]; then
+        echo "This system has no apt-get: going on in the hope that all that is needed is there."
+        echo "That is, by Debian's names: ${news[*]}"
+    fi
+}
+
 # Installs those of the given packages that are missing and says so first. Ends the script when that
 # can't be done. On a system without Debian's packages it goes on and leaves the rest to the build.
 requirePackages()
 {
-    if ! command -v dpkg-query > /dev/null || ! command -v apt-get > /dev/null; then
-        echo "This system has no apt-get: going on in the hope that all that is needed is there."
+    if ! hasPackages; then
+        tellDebianNames "$@"
         return
     fi
 

@@ -1,9 +1,10 @@
-# shellcheck shell=bash
+# shellcheck shell=bash disable=SC2034  # the names are read by the scripts that source this file
 # To be sourced. A virtual display with a window manager, for as long as the script runs. The script
 # has to have called useScratchFolder before.
 
 virtualScreen=1280x1024x24 # the shape that the game is designed for
 housekeepers=()           # the processes that make up the display
+housekeeperNames=()       # by their process numbers
 scratch=                  # sockets, keys and logs; gone when the script ends
 
 # Makes the folder for what lives no longer than the script, and sees to it that everything ends
@@ -33,6 +34,7 @@ keepHouse()
 {
     setpriv --pdeathsig TERM "$@" < /dev/null &> "$scratch/${1##*/}.log" &
     housekeepers+=($!)
+    housekeeperNames[$!]=${1##*/}
 }
 
 # Waits until a command succeeds, for 20 seconds at most. When it doesn't, the script ends with the

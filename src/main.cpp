@@ -7,13 +7,16 @@
 #include "ui/frame.h"
 #include "ui/loading.h"
 #include "ui/reshape.h"
+#include "ui/scale.h"
 #include "ui/settings_screen.h"
 #include "ui/texts.h"
 #include "ui/textures.h"
 #include "x11_platform.h"
+#include "x11_window.h"
 
 #include <GL/freeglut.h>
 
+#include <algorithm>
 #include <csignal>
 #include <cstdlib>
 #include <ctime>
@@ -42,6 +45,26 @@ static void openWindow(int* argc, char** argv)
     windowOpen = true;
 }
 
+static bool inFullScreen = false;
+
+static void fillScreen()
+{
+    if (!coverMainMonitor())
+        glutFullScreen();
+    inFullScreen = true;
+}
+
+// The window between: of the size that it would have had, as far as the screen has room for it.
+static void toggleFullScreen()
+{
+    if (!inFullScreen)
+        return fillScreen();
+    inFullScreen = false;
+    glutLeaveFullScreen();
+    glutReshapeWindow(std::min(1280 * scale(), glutGet(GLUT_SCREEN_WIDTH) * 9 / 10),
+                      std::min(960 * scale(), glutGet(GLUT_SCREEN_HEIGHT) * 9 / 10));
+}
+
 static void registerCallbacks()
 {
     glutReshapeFunc(onReshape);
@@ -54,7 +77,10 @@ static void registerCallbacks()
     glutKeyboardUpFunc(onKeyUp);
     glutSpecialUpFunc(onSpecialUp);
     glutCloseFunc(onClose);
-    host = {.redraw = drawFrame, .armTimer = armTimer, .quit = [] { std::exit(0); }};
+    host = {.redraw = drawFrame,
+            .armTimer = armTimer,
+            .toggleFullScreen = toggleFullScreen,
+            .quit = [] { std::exit(0); }};
 }
 
 int main(int argc, char** argv)
@@ -64,9 +90,11 @@ int main(int argc, char** argv)
     std::signal(SIGXFSZ, SIG_IGN);
     openWindow(&argc, argv);
     registerCallbacks();
+    introduceWindow();
     reportHeldKeysOnce();
     reportShiftTab();
-    glutFullScreen();
+    desktopScale = scaleOfDensity(dotsPerInch());
+    fillScreen();
     if (!loadTextures())
         return 0;
     readSettings();

@@ -1,4 +1,5 @@
 #include "board_picture.h"
+#include "icon.h"
 #include "jpeg_file.h"
 #include "riders.h"
 #include "sheet.h"
@@ -8,14 +9,8 @@
 #include <cstdio>
 #include <string>
 
-// Paints the pictures that the game is given into a folder: painter <folder>.
-int main(int argc, char** argv)
+static bool paintPictures(const std::string& folder)
 {
-    if (argc != 2) {
-        std::fprintf(stderr, "usage: painter <folder>\n");
-        return 2;
-    }
-    const std::string folder = std::string(argv[1]) + "/";
     bool written = writeJpeg(folder + "board.dat", BOARD_PICTURE_WIDTH, BOARD_PICTURE_HEIGHT, 95,
                              paintBoard());
     for (int i = 0; i < RIDER_PICTURE_COUNT; ++i) {
@@ -27,7 +22,21 @@ int main(int argc, char** argv)
     written = writeJpeg(folder + "scorecard.dat", SCORECARD_PICTURE_SIZE, SCORECARD_PICTURE_SIZE,
                         95, paintSheet()) &&
               written;
+    return written;
+}
+
+// Paints the pictures that the game is given into a folder, or the program's icon:
+// painter [--icon] <folder>.
+int main(int argc, char** argv)
+{
+    const bool icon = argc == 3 && std::string(argv[1]) == "--icon";
+    if (argc != 2 && !icon) {
+        std::fprintf(stderr, "usage: painter [--icon] <folder>\n");
+        return 2;
+    }
+    const std::string folder = std::string(argv[argc - 1]) + "/";
+    const bool written = icon ? paintIcons(folder) : paintPictures(folder);
     if (!written)
-        std::fprintf(stderr, "painter: can't write the pictures into %s\n", argv[1]);
+        std::fprintf(stderr, "painter: can't write into %s\n", argv[argc - 1]);
     return written ? 0 : 1;
 }

@@ -24,6 +24,12 @@ void moveTimerFired()
     tickPending = false;
 }
 
+void toggleFullScreen()
+{
+    if (host.toggleFullScreen)
+        host.toggleFullScreen();
+}
+
 void quitProgram()
 {
     if (host.quit)

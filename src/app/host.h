@@ -4,9 +4,10 @@
 // anybody to answer, every call does nothing, so that the rules run by themselves.
 
 struct Host {
-    void (*redraw)() = nullptr;         // paint a whole frame of the present state, now
-    void (*armTimer)(int ms) = nullptr; // call onMoveTimer(0) once after ms milliseconds
-    void (*quit)() = nullptr;           // end the program
+    void (*redraw)() = nullptr;           // paint a whole frame of the present state, now
+    void (*armTimer)(int ms) = nullptr;   // call onMoveTimer(0) once after ms milliseconds
+    void (*toggleFullScreen)() = nullptr; // from the whole screen to a window and back
+    void (*quit)() = nullptr;             // end the program
 };
 
 extern Host host;
@@ -20,6 +21,9 @@ void armMoveTimer(int ms);
 
 // To be called first by whoever receives the tick: it is no longer pending.
 void moveTimerFired();
+
+// From the whole screen to a window and back; what is seen follows with the next reshape.
+void toggleFullScreen();
 
 // Ends the program at once; nothing is written on the way out.
 void quitProgram();

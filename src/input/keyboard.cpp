@@ -1,6 +1,7 @@
 #include "input/keyboard.h"
 
 #include "app/game_state.h"
+#include "app/host.h"
 #include "app/table.h"
 #include "app/view.h"
 #include "board/course.h"
@@ -81,6 +82,7 @@ static void teamTabKey(bool backward)
 
 // Each key as it was last pressed, by its small letter; 0 before, COMMAND with Ctrl or Alt.
 constexpr unsigned char COMMAND = 1;
+constexpr unsigned char WHOLE_SCREEN = 2; // Alt and Enter
 static Table<unsigned char, 256> pressedAs{};
 static bool tabPressedBackward = false;
 
@@ -102,6 +104,8 @@ static void rememberCommand(unsigned char key)
     pressedAs[smallLetter(key)] = COMMAND;
     if (key <= 'z' - lettersBehind)
         pressedAs[key + lettersBehind] = COMMAND;
+    if (key == KEY_ENTER && (heldModifiers() & GLUT_ACTIVE_ALT) != 0)
+        pressedAs[KEY_ENTER] = WHOLE_SCREEN;
 }
 
 void onKeyDown(unsigned char key, int, int)
@@ -124,6 +128,8 @@ static unsigned char asPressed(unsigned char key)
 void onKeyUp(unsigned char key, int, int)
 {
     key = asPressed(key);
+    if (key == WHOLE_SCREEN)
+        return toggleFullScreen();
     if (key == COMMAND || commandHeld())
         return;
     const bool backward = key == KEY_TAB && (std::exchange(tabPressedBackward, false) ||

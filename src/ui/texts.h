@@ -9,9 +9,10 @@
 
 extern Texts texts;
 
-// The two lines that stand on every frame, in no language but this.
-constexpr std::string_view headLine = "Gravelon 1.5.2 for Windows XP";
-constexpr std::string_view footLine = "Gravelon: a cycling race for up to four";
+// The two lines that stand on every frame, whatever the language. The words of the foot line are the
+// same in all four.
+constexpr std::string_view headLine = "Gravelon " GRAVELON_VERSION " for Windows XP";
+constexpr std::string_view footLine = "Gravelon: Peloton, Sprint, Finale";
 
 // Each language by its own name, in the order of Settings::language.
 extern const Table<std::string_view, LANGUAGE_COUNT> languageNames;

@@ -1,3 +1,4 @@
+#include "app/files.h"
 #include "board/pictures.h"
 #include "support/own_folder.h"
 
@@ -73,6 +74,23 @@ TEST(PaintedPictures, AreTheOnesThatTheGameIsGiven)
         ASSERT_EQ(given.bytes.size(), painted.bytes.size());
         EXPECT_LE(worstBlock(given, painted), NOISE_MAX) << file.name;
     }
+}
+
+// The icon shows the rider of the pictures, and a window manager takes its sizes on trust.
+TEST(PaintedPictures, TheWindowsIconIsTheOneThatIsPainted)
+{
+    const OwnFolder folder;
+    ASSERT_EQ(std::system(PAINTER " --icon ."), 0);
+    std::vector<std::uint8_t> given;
+    std::vector<std::uint8_t> painted;
+    ASSERT_TRUE(readWholeFile(SOURCE_DIR "/packaging/icon/window_icon.argb", 100000, given));
+    ASSERT_TRUE(readWholeFile("window_icon.argb", 100000, painted));
+    ASSERT_EQ(given.size(), 4U * (8 + 16 * 16 + 32 * 32 + 48 * 48 + 64 * 64));
+    ASSERT_EQ(given.size(), painted.size());
+    int difference = 0;
+    for (std::size_t i = 0; i < given.size(); ++i)
+        difference += std::abs(given[i] - painted[i]);
+    EXPECT_LE(difference, static_cast<int>(given.size()));
 }
 
 // A pixel between figure and key colour would stand as a yellow speck beside the rider.

@@ -1,0 +1,17 @@
+#pragma once
+
+// What a window has to say for itself on X11. On other platforms these do nothing. Call them once
+// there is a window.
+
+// Tells the desktop whose window this is: its class, by which a desktop finds the entry in its
+// menu, its title, and its icon in four sizes.
+void introduceWindow();
+
+// How many dots to an inch the desktop draws its texts with, by its resource "Xft.dpi"; 0 if it
+// doesn't say.
+double dotsPerInch();
+
+// Where there are several monitors, puts the window on the main one, for a window manager to make
+// it full-screen there. True if there is no window manager and the window covers that monitor
+// already: a full screen of GLUT's would cover all of them.
+bool coverMainMonitor();
