@@ -55,7 +55,7 @@ static void fillScreen()
 }
 
 // The window between: of the size that it would have had, as far as the screen has room for it.
-static void toggleFullScreen()
+static void changeScreen()
 {
     if (!inFullScreen)
         return fillScreen();
@@ -79,7 +79,7 @@ static void registerCallbacks()
     glutCloseFunc(onClose);
     host = {.redraw = drawFrame,
             .armTimer = armTimer,
-            .toggleFullScreen = toggleFullScreen,
+            .toggleFullScreen = changeScreen,
             .quit = [] { std::exit(0); }};
 }
 
