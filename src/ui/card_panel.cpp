@@ -94,11 +94,13 @@ static void drawTabs()
         setColour(tabColour(team, team == view.shownTeam));
         fillRect(tab.x, tab.y, tab.w, tab.h);
     }
+    constexpr float titleH = 16.0f;
     for (int team = 0; team < TEAM_COUNT; ++team) {
         const Rect tab = placeOf(static_cast<Control>(CONTROL_TAB_1 + team));
+        const Font font = tab.h < titleH ? FONT_BODY : FONT_TITLE;
         setColour(team == view.shownTeam ? WHITE : disabledGrey);
         drawText(tab.x + tab.w * 0.5f, tab.y + tab.h * 0.6f, ALIGN_CENTRE,
-                 cutToWidth(raceSetup.teamName[team], tab.w - 4.0f, FONT_TITLE), FONT_TITLE);
+                 cutToWidth(raceSetup.teamName[team], tab.w - 4.0f, font), font);
     }
 }
 

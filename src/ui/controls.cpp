@@ -166,19 +166,19 @@ constexpr Table<Row, CONTROL_COUNT> rows = {{
 {CONTROL_THROW,            DICE_BUTTON,                                                                        {&Texts::throwDice},          FIRST,               in(STATE_TURN),         ON_PRESS},
 {CONTROL_ORDER_THROW,      DICE_BUTTON,                                                                        {&Texts::throwDice},          FIRST,               in(STATE_ORDER_THROW),  ON_RELEASE},
 {CONTROL_NEXT,             DICE_BUTTON,                                                                        {&Texts::next},               {0, 0, 1, 0},        in(STATE_ORDER_RESULT), ON_RELEASE},
-{CONTROL_EXTRA_THROW,      {&L::hudCol3X, &L::extraThrowY, &L::cardH, &L::throwButtonH},                       {&Texts::throwDice},          FIRST,               in(STATE_EVENT_DIE),    ON_PRESS},
+{CONTROL_EXTRA_THROW,      {&L::hudCol3X, &L::extraThrowY, &L::cardH, &L::throwButtonH},                       {&Texts::throwDice},          FIRST,               in(STATE_EVENT_DIE),    ON_PRESS, GROWS_RIGHT},
 {CONTROL_BREAKAWAY,        at(breakawayBox),                                                                   {&Texts::breakaway},          FIRST,               in(STATE_TURN),         ON_PRESS, 0, cardLaid},
-{CONTROL_DOPING,           {&L::sideButtonX, &L::dopingButtonY, &L::sideButtonW, &L::buttonH},                 {&Texts::doping},             {0, 0, 1, 1},        in(STATE_TURN),         ON_PRESS, 0, mayDope},
+{CONTROL_DOPING,           {&L::sideButtonX, &L::dopingButtonY, &L::sideButtonW, &L::buttonH},                 {&Texts::doping},             {0, 0, 1, 1},        in(STATE_TURN),         ON_PRESS, GROWS_LEFT, mayDope},
 {CONTROL_HAND_IN,          {&L::diceX, &L::handInOkY, &L::cardH, &L::throwButtonH},                            OK,                           FIRST,               in(STATE_SKIP_HANDIN, STATE_EVENT_HANDIN), ON_PRESS_HAND_IN, CONFIRMS | ONCE, handInComplete},
 {CONTROL_TAB_1,            at(teamTab<0>),                                                                     {},                           NONE,                TEAM_TAB_STATES,        ON_RELEASE_TAB},
 {CONTROL_TAB_2,            at(teamTab<1>),                                                                     {},                           NONE,                TEAM_TAB_STATES,        ON_RELEASE_TAB},
 {CONTROL_TAB_3,            at(teamTab<2>),                                                                     {},                           NONE,                TEAM_TAB_STATES,        ON_RELEASE_TAB},
 {CONTROL_TAB_4,            at(teamTab<3>),                                                                     {},                           NONE,                TEAM_TAB_STATES,        ON_RELEASE_TAB},
-{CONTROL_QUIT,             {&L::cornerButtonX, &L::cornerButtonY, &L::sideButtonW, &L::buttonH},               {&Texts::quit},               {1, 0, 0, 1},        RACE_PANEL_STATES,      ON_PRESS_PANEL},
-{CONTROL_SCORECARD,        {&L::sideButtonX, &L::scorecardButtonY, &L::sideButtonW, &L::buttonH},              {&Texts::scorecard},          FIRST,               RACE_PANEL_STATES,      ON_PRESS_PANEL},
-{CONTROL_POSITIONS,        {&L::sideButtonX, &L::positionsButtonY, &L::sideButtonW, &L::buttonH},              {&Texts::positions},          FIRST,               RACE_PANEL_STATES,      ON_PRESS_PANEL},
-{CONTROL_RACE_SETTINGS,    {&L::sideButtonX, &L::settingsButtonY, &L::sideButtonW, &L::buttonH},               {&Texts::settings},           {0, 1, 1, 0},        RACE_PANEL_STATES,      ON_PRESS_PANEL},
-{CONTROL_VIEW,             {&L::viewToggleX, &L::hudY, &L::buttonH, &L::buttonH},                              {},                           NONE,                CAMERA_STATES,          ON_PRESS_CAMERA},
+{CONTROL_QUIT,             {&L::cornerButtonX, &L::cornerButtonY, &L::sideButtonW, &L::buttonH},               {&Texts::quit},               {1, 0, 0, 1},        RACE_PANEL_STATES,      ON_PRESS_PANEL, GROWS_LEFT},
+{CONTROL_SCORECARD,        {&L::sideButtonX, &L::scorecardButtonY, &L::sideButtonW, &L::buttonH},              {&Texts::scorecard},          FIRST,               RACE_PANEL_STATES,      ON_PRESS_PANEL, GROWS_LEFT},
+{CONTROL_POSITIONS,        {&L::sideButtonX, &L::positionsButtonY, &L::sideButtonW, &L::buttonH},              {&Texts::positions},          FIRST,               RACE_PANEL_STATES,      ON_PRESS_PANEL, GROWS_LEFT},
+{CONTROL_RACE_SETTINGS,    {&L::sideButtonX, &L::settingsButtonY, &L::sideButtonW, &L::buttonH},               {&Texts::settings},           {0, 1, 1, 0},        RACE_PANEL_STATES,      ON_PRESS_PANEL, GROWS_LEFT},
+{CONTROL_VIEW,             {&L::viewToggleX, &L::hudY, &L::viewToggleW, &L::buttonH},                          {},                           NONE,                CAMERA_STATES,          ON_PRESS_CAMERA},
 {CONTROL_CAMERA,           {&L::cameraButtonX, &L::hudY, &L::buttonH, &L::buttonH},                            {},                           NONE,                CAMERA_STATES,          ON_PRESS_CAMERA},
 
 {CONTROL_FOLLOW_YES,       DIALOG_LEFT,                                                                        {&Texts::yes},                FIRST,               in(STATE_FOLLOW_PROMPT),       ON_RELEASE_BOX, ONCE},
@@ -203,8 +203,8 @@ constexpr Table<Row, CONTROL_COUNT> rows = {{
 {CONTROL_SETUP_MESSAGE_OK, DIALOG_OK,                                                                          OK,                           FIRST,               in(STATE_SETUP_MESSAGE),       ON_RELEASE_BOX, CONFIRMS | ONCE},
 
 {CONTROL_SHEET_OK,         SHEET_LEAVE,                                                                        OK,                           FIRST,               in(STATE_SCORECARD, STATE_RACE_STANDINGS), ON_RELEASE_BOX, CONFIRMS},
-{CONTROL_SHEET_QUIT,       SHEET_LEAVE,                                                                        {&Texts::quit},               {1, 0, 0, 1},        in(STATE_FINAL_SCORECARD), ON_RELEASE_BOX},
-{CONTROL_EXPORT,           {&L::exportButtonX, &L::scorecardBottomButtonY, &L::exportButtonW, &L::buttonH},    {&Texts::exportButton},       {1, 1, 1, 1},        SCORECARD_STATES,       ON_RELEASE_BOX},
+{CONTROL_SHEET_QUIT,       SHEET_LEAVE,                                                                        {&Texts::quit},               {1, 0, 0, 1},        in(STATE_FINAL_SCORECARD), ON_RELEASE_BOX, GROWS_RIGHT},
+{CONTROL_EXPORT,           {&L::exportButtonX, &L::scorecardBottomButtonY, &L::exportButtonW, &L::buttonH},    {&Texts::exportButton},       {1, 1, 1, 1},        SCORECARD_STATES,       ON_RELEASE_BOX, GROWS_LEFT},
 {CONTROL_GENERAL,          {&L::generalViewButtonX, &L::scorecardBottomButtonY, &L::stageViewButtonW, &L::buttonH}, {&Texts::general},       {0, 0, 0, -1},       SCORECARD_STATES,       ON_RELEASE_BOX, 0, mayShowGeneral},
 {CONTROL_STAGE,            {&L::stageViewButtonX, &L::scorecardBottomButtonY, &L::stageViewButtonW, &L::buttonH}, {&Texts::stageTab},        {0, 0, 4, 0},        SCORECARD_STATES,       ON_RELEASE_BOX, 0, mayShowStage},
 {CONTROL_PREVIOUS_STAGE,   {&L::prevStageX, &L::stageArrowY, &L::stageArrowW, &L::buttonH},                    LESS,                         NONE,                SCORECARD_STATES,       ON_RELEASE_BOX, 0, mayTurnBack},
@@ -237,7 +237,7 @@ constexpr Table<Row, CONTROL_COUNT> rows = {{
 {CONTROL_ADD_SECTION,      DESIGN_MIDDLE,                                                                      {&Texts::addSection},         FIRST,               DESIGN,                 ON_RELEASE, 0, designOpen},
 {CONTROL_DESIGN_OK,        DESIGN_MIDDLE,                                                                      OK,                           FIRST,               DESIGN,                 ON_RELEASE, CONFIRMS, designFinished},
 {CONTROL_PREVIOUS_SECTION, {&L::prevSectionButtonX, &L::designButtonY, &L::designButtonW, &L::buttonH},        {&Texts::previousSection},    FIRST,               DESIGN,                 ON_RELEASE},
-{CONTROL_SAVE_COURSE,      {&L::saveCourseButtonX, &L::designButtonY, &L::designButtonW, &L::buttonH},         {&Texts::saveCourse},         NONE,                DESIGN,                 ON_RELEASE, ONCE, designFinished},
+{CONTROL_SAVE_COURSE,      {&L::saveCourseButtonX, &L::designButtonY, &L::designButtonW, &L::buttonH},         {&Texts::saveCourse},         NONE,                DESIGN,                 ON_RELEASE, ONCE | GROWS_LEFT, designFinished},
 {CONTROL_DESIGN_BACK,      CORNER,                                                                             {&Texts::courseBack},         NONE,                DESIGN,                 ON_RELEASE},
 {CONTROL_SPRINT,           at(checkBox<&L::sprintCheckX, &L::sprintCheckY, &L::designCheckSize>),              {&Texts::sprint},             NONE,                DESIGN,                 ON_RELEASE, 0, sprintChoosable},
 {CONTROL_FINISH,           at(checkBox<&L::finishCheckX, &L::finishCheckY, &L::designCheckSize>),              {&Texts::finish},             NONE,                DESIGN,                 ON_RELEASE, 0, finishChoosable},
@@ -247,7 +247,7 @@ constexpr Table<Row, CONTROL_COUNT> rows = {{
 {CONTROL_SAVED_OK,         {&L::savedOkX, &L::savedButtonY, &L::buttonW, &L::buttonH},                         OK,                           NONE,                in(STATE_COURSE_SAVED), ON_RELEASE, 0, courseShown},
 
 {CONTROL_SETTINGS_OK,      {&L::settingsOkX, &L::settingsOkY, &L::buttonW, &L::buttonH},                       OK,                           NONE,                in(STATE_SETTINGS),     ON_RELEASE},
-{CONTROL_SETTINGS_CANCEL,  {&L::settingsCancelX, &L::settingsOkY, &L::buttonW, &L::buttonH},                   {&Texts::cancel},             NONE,                in(STATE_SETTINGS),     ON_RELEASE},
+{CONTROL_SETTINGS_CANCEL,  {&L::settingsCancelX, &L::settingsOkY, &L::buttonW, &L::buttonH},                   {&Texts::cancel},             NONE,                in(STATE_SETTINGS),     ON_RELEASE, GROWS_RIGHT},
 {CONTROL_DEFAULT,          {&L::defaultButtonX, &L::defaultButtonY, &L::defaultButtonW, &L::buttonH},          {&Texts::defaultValues},      NONE,                in(STATE_SETTINGS),     ON_RELEASE},
 {CONTROL_SMOOTH,           at(movementRadio<&L::smoothRadioY>),                                                {&Texts::smoothMovement},     NONE,                in(STATE_SETTINGS),     ON_RELEASE},
 {CONTROL_STEPWISE,         at(movementRadio<&L::stepwiseRadioY>),                                              {&Texts::stepwiseMovement},   NONE,                in(STATE_SETTINGS),     ON_RELEASE},
@@ -256,7 +256,7 @@ constexpr Table<Row, CONTROL_COUNT> rows = {{
 {CONTROL_RATIO_1610,       at(ratioRadio<&L::ratio1610Y>),                                                     {&Texts::ratio1610},          NONE,                in(STATE_SETTINGS),     ON_RELEASE},
 
 {CONTROL_LIST_OK,          {&L::listOkX, &L::listButtonY, &L::buttonW, &L::buttonH},                           OK,                           FIRST,               LIST,                   ON_RELEASE, 0, raceChosen},
-{CONTROL_LIST_SCORECARD,   {&L::listScorecardX, &L::listButtonY, &L::buttonW, &L::buttonH},                    {&Texts::scorecard},          FIRST,               LIST,                   ON_RELEASE, 0, raceChosen},
+{CONTROL_LIST_SCORECARD,   {&L::listScorecardX, &L::listButtonY, &L::buttonW, &L::buttonH},                    {&Texts::scorecard},          FIRST,               LIST,                   ON_RELEASE, GROWS_LEFT, raceChosen},
 {CONTROL_LIST_BACK,        CORNER,                                                                             {&Texts::courseBack},         FIRST,               LIST,                   ON_RELEASE},
 {CONTROL_LIST_PREVIOUS,    {&L::listPrevX, &L::listArrowY, &L::buttonW, &L::buttonH},                          LESS,                         NONE,                LIST,                   ON_RELEASE, 0, racesBefore},
 {CONTROL_LIST_NEXT,        {&L::listNextX, &L::listArrowY, &L::buttonW, &L::buttonH},                          MORE,                         NONE,                LIST,                   ON_RELEASE, 0, racesBehind},
@@ -301,11 +301,12 @@ template <typename Choose> Control firstLive(Choose choose)
 // grows to both sides unless another button stands close to one.
 static Rect withRoomForLabel(Rect place, const Row& row)
 {
-    constexpr float margin = 2.0f;
+    constexpr float leastMargin = 1.0f;
+    constexpr float margin = 2.0f; // of a button that has grown
     const float labelW = static_cast<float>(textWidth(controlLabel(row.control), FONT_BODY));
-    const float lacking = labelW + 2.0f * margin - place.w;
-    if (lacking <= 0.0f)
+    if (labelW + 2.0f * leastMargin <= place.w)
         return place;
+    const float lacking = labelW + 2.0f * margin - place.w;
     const float toLeft = (row.traits & GROWS_LEFT) != 0    ? lacking
                          : (row.traits & GROWS_RIGHT) != 0 ? 0.0f
                                                            : lacking * 0.5f;

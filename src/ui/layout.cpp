@@ -12,6 +12,11 @@ constexpr float LIST_COLUMNS = static_cast<float>(raceListCols);
 constexpr float LIST_LINES =
     static_cast<float>(raceListRows + 1); // with half a line above and below
 
+// Letters don't get smaller with the window, so that some places have to be made for them.
+constexpr float FOOT_LINE_H = 12.0f;
+constexpr float STACKED_LABELS_H = 21.0f; // for "2D" above "3D"
+constexpr float LABELS_ABREAST_W = 38.0f; // for one beside the other
+
 // What the program chose last, to tell whether somebody has chosen otherwise since.
 static ScreenRatio guessedRatio = {-1.0, -1.0};
 
@@ -49,6 +54,11 @@ static void layoutDice(Layout& l)
     l.throwButtonH  = l.cardH / 3.0f;
     l.handInY       = l.throwButtonY + l.throwButtonH + l.cardGapX;
     l.handInOkY     = l.handInY + l.cardH + l.cardH / 5.0f;
+    // On a low window the foot line would run into the button.
+    if (l.handInOkY + l.throwButtonH > static_cast<float>(l.viewH) - FOOT_LINE_H) {
+        l.handInY   = l.throwButtonY + l.throwButtonH + 2.0f;
+        l.handInOkY = l.handInY + l.cardH + 2.0f;
+    }
     l.eventSlotX    = l.diceX + 2.0f * l.cardH + 3.0f * l.cardGapX;
     l.hudCol3X      = l.diceX + 2.0f * l.cardH + 3.0f * l.cardGapX;
     l.extraThrowY   = l.hudY + l.cardH + l.throwButtonH * 0.5f;
@@ -90,14 +100,18 @@ static void layoutButtons(Layout& l, float viewW, float viewH)
     l.buttonH          = viewH * 0.03f;
     l.sideButtonW      = viewW * 0.08f;
     l.viewToggleX      = viewW - l.buttonW * 1.5f;
-    l.cameraButtonX    = viewW - l.buttonW * 1.5f + l.sideButtonW - l.buttonH;
+    l.viewToggleW      = l.buttonH < STACKED_LABELS_H ? LABELS_ABREAST_W : l.buttonH;
+    l.cameraButtonX    = std::max(viewW - l.buttonW * 1.5f + l.sideButtonW - l.buttonH,
+                                  l.viewToggleX + l.viewToggleW + 2.0f);
     l.sideButtonX      = viewW - l.buttonW * 1.5f;
-    l.scorecardButtonY = l.hudY + l.buttonH * 1.2f;
-    l.positionsButtonY = l.hudY + l.buttonH * 2.4f;
-    l.dopingButtonY    = l.hudY + l.buttonH * 3.6f;
-    l.settingsButtonY  = l.hudY + l.buttonH * 4.8f;
     l.cornerButtonX    = viewW - l.buttonW * 1.5f;
     l.cornerButtonY    = viewH - 20.0f - l.buttonH * 1.1f;
+    // Four buttons between the two at the top and "Quit", closer on a low window.
+    const float step   = std::min(l.buttonH * 1.2f, (l.cornerButtonY - l.hudY - l.buttonH - 1.0f) / 4.0f);
+    l.scorecardButtonY = l.hudY + step;
+    l.positionsButtonY = l.hudY + step * 2.0f;
+    l.dopingButtonY    = l.hudY + step * 3.0f;
+    l.settingsButtonY  = l.hudY + step * 4.0f;
 }
 
 static void layoutDialogParts(Layout& l)
@@ -158,6 +172,7 @@ static void layoutTeamSetup(Layout& l, float viewW, float viewH)
     l.teamNameW     = 97.0f;
     l.teamNameH     = 15.0f;
     l.teamRowStep   = std::max(viewH * 0.01f + 15.0f, viewH * 0.02f + 1.0f);
+    l.teamRowStep   = std::min(l.teamRowStep, (viewH * 0.14f - 1.0f - l.teamNameH) / 3.0f);
     l.teamCheckX    = l.teamNameX + l.teamNameW * 1.2f;
     l.teamCheckSize = viewH * 0.02f;
     l.teamOkX       = viewW * 0.5f - l.buttonW * 0.5f;
@@ -231,7 +246,7 @@ static void layoutSettings(Layout& l, float viewW, float viewH)
     l.movementRadioX  = viewW * 0.4f;
     l.smoothRadioY    = viewH * 0.25f;
     l.stepwiseRadioY  = viewH * 0.33f;
-    l.settingsRowH    = viewH * 0.02f;
+    l.settingsRowH    = std::max(viewH * 0.02f, 12.0f);
     l.movementFrameX  = l.movementRadioX - l.settingsRowH * 1.5f;
     l.delayFieldX     = viewW * 0.5f;
     l.stepTimeFieldX  = viewW * 0.54f;
@@ -260,8 +275,10 @@ static void layoutRaceList(Layout& l, float viewW, float viewH)
     l.listPrevX      = l.raceListX - l.buttonW;
     l.listNextX      = l.raceListX + LIST_COLUMNS * l.raceListColW;
     l.listArrowY     = l.raceListY + LIST_LINES * l.raceListRowH * 0.5f - l.buttonH * 0.5f;
-    l.listOkX        = viewW * 0.5f + l.buttonW * 0.6f;
-    l.listScorecardX = viewW * 0.5f - l.buttonW * 0.5f;
+    // On a low window the teams of a race stand beside the buttons.
+    const float aside = viewH < 560.0f ? viewW * 0.15f : 0.0f;
+    l.listOkX        = viewW * 0.5f + l.buttonW * 0.6f + aside;
+    l.listScorecardX = viewW * 0.5f - l.buttonW * 0.5f + aside;
     l.listButtonY    = viewH * 0.8f;
 }
 
@@ -286,8 +303,9 @@ static void layoutScorecardParts(Layout& l)
     l.nextStageX             = l.scorecardX + l.scorecardW - l.scorecardW * 0.05f - l.stageArrowW;
     l.stageTitleX            = l.scorecardX + l.scorecardW * 0.5f;
     l.stageTitleY            = l.scorecardY + l.scorecardH * 0.016f + l.buttonH * 0.5f;
-    l.generalViewButtonX     = l.scorecardX + l.scorecardW * 0.05f;
-    l.stageViewButtonX       = l.generalViewButtonX + l.stageViewButtonW + l.scorecardW * 0.05f;
+    const float tabGap       = l.scorecardW < 288.0f ? 3.0f : l.scorecardW * 0.05f;
+    l.generalViewButtonX     = l.scorecardX + tabGap;
+    l.stageViewButtonX       = l.generalViewButtonX + l.stageViewButtonW + tabGap;
 }
 
 static void layoutScorecard(Layout& l, float viewW, float viewH)

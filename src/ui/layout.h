@@ -70,6 +70,7 @@ struct Layout {
     float buttonH = 0.0f;
     float sideButtonW = 0.0f;
     float viewToggleX = 0.0f;
+    float viewToggleW = 0.0f;
     float cameraButtonX = 0.0f;
     float sideButtonX = 0.0f;
     float scorecardButtonY = 0.0f;

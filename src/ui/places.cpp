@@ -79,11 +79,12 @@ Rect raceNameBox()
             layout.stageRowH};
 }
 
-// A field of the settings stands clear of its label in every language.
-static float endOfFieldLabel(std::string_view label)
+// A field of the settings stands where it should, or behind its label where that is too long.
+static float clearOfLabel(float x, std::string_view label)
 {
     constexpr float gap = 4.0f;
-    return settingsLabelX() + static_cast<float>(textWidth(label, FONT_BODY)) + gap;
+    const float end = settingsLabelX() + static_cast<float>(textWidth(label, FONT_BODY));
+    return end + 1.0f <= x ? x : end + gap;
 }
 
 float settingsLabelX()
@@ -95,12 +96,11 @@ Rect settingsField(int field)
 {
     const float rowH = layout.settingsRowH;
     if (field == 2)
-        return {std::max(layout.stepTimeFieldX, endOfFieldLabel(texts.timeBetweenSteps)),
+        return {clearOfLabel(layout.stepTimeFieldX, texts.timeBetweenSteps),
                 layout.stepwiseRadioY + rowH * 0.5f, layout.settingsFieldW, rowH};
     const float rows = field == 0 ? 0.5f : 1.7f;
-    return {
-        std::max(layout.delayFieldX, endOfFieldLabel(field == 0 ? texts.delay : texts.distance)),
-        layout.smoothRadioY + rowH * rows, layout.settingsFieldW, rowH};
+    return {clearOfLabel(layout.delayFieldX, field == 0 ? texts.delay : texts.distance),
+            layout.smoothRadioY + rowH * rows, layout.settingsFieldW, rowH};
 }
 
 // Two pictures in a row.

@@ -111,8 +111,13 @@ static void drawLineToBoard(int index)
     setLineWidth(1.0f);
 }
 
+// On a narrow window there is no room between the pawns at the sides and the edge: what belongs
+// beside them stands below.
 static void drawBeside(Spot pawn, Spot offset, const std::string& text)
 {
+    constexpr int narrow = 680;
+    if (offset.x != 0.0f && layout.viewW < narrow)
+        offset = {0.0f, offset.y + 21.0f};
     drawText(pawn.x + offset.x, pawn.y + offset.y, ALIGN_CENTRE, text);
 }
 

@@ -22,6 +22,14 @@
 #include <string>
 #include <string_view>
 
+static void drawLine(float x, float y, float endX, float endY)
+{
+    glBegin(GL_LINES);
+    glVertex2f(x, y);
+    glVertex2f(endX, endY);
+    glEnd();
+}
+
 static void drawViewToggle()
 {
     const Rect box = placeOf(CONTROL_VIEW);
@@ -29,12 +37,16 @@ static void drawViewToggle()
     setColour(buttonGrey);
     fillRect(box.x, box.y, box.w, box.h);
     setColour(BLACK);
+    // On a low window there is no room for one above the other.
+    if (box.w > box.h) {
+        drawText(box.x + box.w * 0.25f, box.y + box.h * 0.5f, ALIGN_CENTRE, "2D");
+        drawText(box.x + box.w * 0.75f, box.y + box.h * 0.5f, ALIGN_CENTRE, "3D");
+        drawLine(middle, box.y, middle, box.y + box.h);
+        return;
+    }
     drawText(middle, box.y + box.h * 0.25f, ALIGN_CENTRE, "2D");
     drawText(middle, box.y + box.h * 0.8f, ALIGN_CENTRE, "3D");
-    glBegin(GL_LINES);
-    glVertex2f(box.x, box.y + box.h * 0.5f);
-    glVertex2f(box.x + box.w, box.y + box.h * 0.5f);
-    glEnd();
+    drawLine(box.x, box.y + box.h * 0.5f, box.x + box.w, box.y + box.h * 0.5f);
 }
 
 // A circular arrow: an open circle with its head where it began, round the point looked at.

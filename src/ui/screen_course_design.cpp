@@ -14,6 +14,8 @@
 
 #include <GL/gl.h>
 
+#include <algorithm>
+
 static constexpr float FRAME_INSET = 6.0f;
 
 // The section in question where the board lies on the race screen.
@@ -53,7 +55,8 @@ static void drawSaveFailure()
     const std::string message = "\"courses\"" + texts.couldNotOpen;
     const float w = static_cast<float>(textWidth(message, FONT_BODY)) + 30.0f;
     const Rect save = placeOf(CONTROL_SAVE_COURSE);
-    const float x = save.x + save.w * 0.5f;
+    const float right = static_cast<float>(layout.viewW) - w * 0.5f;
+    const float x = std::min(save.x + save.w * 0.5f, right);
     const float y = save.y - 14.0f;
     setColour(WHITE);
     fillRect(x - w * 0.5f, y - 9.0f, w, 18.0f);
