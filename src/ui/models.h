@@ -10,6 +10,7 @@ struct DisplayLists {
     Table<unsigned, 6> pawnTopLists{}; // 0 flat outline, 1 to 4 the teams' figures, 5 the winner's
     Table<unsigned, 6> pawnTurnedLists{}; // 1 to 5 as above, the figure turned by 90 degrees
     unsigned boardList = 0;
+    unsigned slantedBoardList = 0; // the same for the perspective view
     unsigned cardOuterList = 0;
     unsigned cardFrameList = 0;
     unsigned cardInnerList = 0;
