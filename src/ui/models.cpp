@@ -298,8 +298,12 @@ void buildDisplayLists()
     compileScorecards();
 }
 
-// Both figures stand upright, so it is the camera's direction on the ground that decides: along the
-// rider's way it sees a figure across best, from his side one along it.
+// Of the way to the camera, what lies beside the rider over what lies ahead of him or behind. A
+// bike across the road looks like a barrier, so it rides along the road wherever two fifths of its
+// length can be seen; with less it would be a sliver.
+constexpr double LEAST_SIDE = 0.45;
+
+// Both figures stand upright, so it is the camera's direction on the ground that decides.
 bool figureTurned(float x, float y, double heading)
 {
     const int camera = view.cameraIndex - FIRST_PERSPECTIVE_CAMERA;
@@ -309,7 +313,7 @@ bool figureTurned(float x, float y, double heading)
     const double eyeY = -cameraEyes[camera].y - static_cast<double>(y);
     const double along = eyeX * std::cos(heading) + eyeY * std::sin(heading);
     const double aside = eyeY * std::cos(heading) - eyeX * std::sin(heading);
-    return std::abs(aside) > std::abs(along);
+    return std::abs(aside) > LEAST_SIDE * std::abs(along);
 }
 
 void drawStandingPawn(int figure, float x, float y, double heading)
