@@ -57,7 +57,8 @@ std::vector<Person> groupAt(const Square& square, double along, bool onLeft, con
             return lengthOf(other.foot - at) < 7;
         });
         if (!inside || crowded || clearance(road, at) < 10.5 ||
-            clearance(road, at - Spot{0, 17}) < 7)
+            clearance(road, at - Spot{0, 17}) < 7 ||
+            clearance(road, at + unitOf(edge - point.middle) * 14) < 12)
             continue;
         group.push_back({at, SHIRTS[static_cast<std::size_t>(chance(seed, i, 304) * 5.99)],
                          chance(seed, i, 305) < 0.3});
