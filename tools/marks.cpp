@@ -84,7 +84,8 @@ double crowding(const NumberPlace& number, const Square& square, const std::vect
                 const std::vector<NumberPlace>& placed)
 {
     const double covered = lacking(gapToPawn(number, square.centre), 0.5);
-    double sum = covered * (2 + covered) + 0.7 * lacking(gapToPawn(number, square.centre), 4.5);
+    double sum =
+        covered * (3 + 1.5 * covered) + 1.2 * lacking(gapToPawn(number, square.centre), 4.5);
     for (const Square& other : squares) {
         if (&other != &square && lengthOf(other.centre - number.at) < 40)
             sum += 2 * lacking(gapToPawn(number, other.centre), 0.5);
@@ -92,7 +93,7 @@ double crowding(const NumberPlace& number, const Square& square, const std::vect
     for (const NumberPlace& other : placed) {
         const Spot off = other.at - number.at;
         if (!other.text.empty() && lengthOf(off) < 60)
-            sum += 4 * std::min(lacking(std::abs(off.x) - number.halfWidth - other.halfWidth, 6.5),
+            sum += 4 * std::min(lacking(std::abs(off.x) - number.halfWidth - other.halfWidth, 8.5),
                                 lacking(std::abs(off.y) - 2 * NUMBER_HALF_HEIGHT, 1));
     }
     return sum;
@@ -109,7 +110,7 @@ double overlap(const NumberPlace& number, const Square& square, double along, do
                         halfAlong(number, unitOf(point.right - point.left));
     const auto line = [&](int lane) { return wallBeside(square, lane) ? WALL_WIDTH / 2 : 1.2; };
     const auto cost = [](double over) { return over * (2 + over); };
-    return cost(lacking(end, 3)) + 0.1 * std::abs(end - 6) + 0.3 * std::abs(aside) +
+    return cost(lacking(end, 2.4)) + 0.1 * std::abs(end - 6) + 0.3 * std::abs(aside) +
            cost(lacking(side - aside, line(square.lane))) +
            cost(lacking(side + aside, line(square.lane - 1)));
 }
