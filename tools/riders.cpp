@@ -16,6 +16,8 @@ constexpr Colour RIM = rgb(0xb9bcc0);
 constexpr Colour SOCK = rgb(0xf0f0ea);
 constexpr Colour SHOE = rgb(0x3a3a40);
 
+constexpr double RIM_WIDTH = 2.5;
+
 // clang-format off
 //   jersey         trim           shorts         sleeve         frame          pattern
 constexpr std::array<Kit, RIDER_PICTURE_COUNT> KITS = {{
@@ -52,7 +54,7 @@ struct Pen {
 
     void line(const Outline& points, double width, Colour colour) const
     {
-        limb(cr, points, width + (rim ? 3.4 : 0), rim ? OUTLINE : colour);
+        limb(cr, points, width + (rim ? RIM_WIDTH : 0), rim ? OUTLINE : colour);
     }
     void ring(Spot centre, double radius, double width, Colour colour) const
     {
@@ -64,7 +66,7 @@ struct Pen {
     void shape(const Outline& points, Colour colour) const
     {
         if (rim)
-            strokeLine(cr, points, true, 3.4, OUTLINE);
+            strokeLine(cr, points, true, RIM_WIDTH, OUTLINE);
         fillShape(cr, points, rim ? OUTLINE : colour);
     }
 };
