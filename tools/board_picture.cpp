@@ -2,12 +2,15 @@
 
 #include "canvas.h"
 #include "cartouche.h"
+#include "crowd.h"
+#include "kerb.h"
 #include "land.h"
 #include "marks.h"
 #include "mountains.h"
 #include "road.h"
 #include "scenery.h"
 #include "squares.h"
+#include "woods.h"
 
 #include "board/pictures.h"
 #include "board/section_shapes.h"
@@ -30,9 +33,34 @@ static std::vector<Outline> keptGround()
         kept.push_back(outline);
     for (const Outline& outline : waterGround())
         kept.push_back(outline);
+    for (const Outline& outline : trackGround())
+        kept.push_back(outline);
+    for (const Outline& outline : mountainGround())
+        kept.push_back(outline);
     for (const Outline& outline : signGround())
         kept.push_back(outline);
     return kept;
+}
+
+// What stands beside the road throws its shade on it.
+static void paintShade(cairo_t* cr, const std::vector<Square>& squares,
+                       const std::vector<Tree>& trees)
+{
+    cairo_save(cr);
+    cairo_new_path(cr);
+    for (const Square& square : squares) {
+        cairo_new_sub_path(cr);
+        for (const Spot& point : square.outline)
+            cairo_line_to(cr, point.x, point.y);
+        cairo_close_path(cr);
+    }
+    cairo_clip(cr);
+    cairo_push_group(cr);
+    shadeBesideMountains(cr);
+    shadeBesideTrees(cr, trees);
+    cairo_pop_group_to_source(cr);
+    cairo_paint_with_alpha(cr, 0.26);
+    cairo_restore(cr);
 }
 
 static void paintFrame(cairo_t* cr)
@@ -50,17 +78,22 @@ std::vector<std::uint8_t> paintBoard()
     Canvas canvas = openCanvas(BOARD_PICTURE_WIDTH, BOARD_PICTURE_HEIGHT, 4, width, height);
     const std::vector<Square> squares = printedSquares();
     const LandMap road = mapLand(squares, {});
+    const LandMap edge = roadEdge(squares);
     paintLand(canvas.cr, road);
     paintWater(canvas.cr);
     const LandMap kept = mapLand(squares, keptGround());
     paintPaths(canvas.cr);
-    paintMountains(canvas.cr, kept);
-    paintWoods(canvas.cr, kept);
+    paintMountains(canvas.cr);
+    const std::vector<Tree> trees = plantTrees(kept, squares);
+    paintTrees(canvas.cr, trees);
     paintVillages(canvas.cr);
+    paintRoadBed(canvas.cr, edge);
     paintRoad(canvas.cr, squares);
+    paintShade(canvas.cr, squares, trees);
+    paintKerb(canvas.cr, edge);
     paintBridge(canvas.cr);
     paintPodium(canvas.cr);
-    paintTeamCars(canvas.cr);
+    paintCars(canvas.cr);
     paintSpectators(canvas.cr, kept, squares);
     paintCartouche(canvas.cr);
     paintMarks(canvas.cr, squares);

@@ -63,9 +63,16 @@ void drawTitle(cairo_t* cr)
     drawTail(cr, -1);
     drawTail(cr, 1);
     shadedBox(cr, TITLE, TITLE_HALF, 33, 9);
-    drawLettering(
-        cr, "Gravelon", TITLE,
-        {.height = 36, .stroke = 6.6, .ink = RED, .halo = 1.8, .haloInk = INK, .stretch = 1.02});
+    Lettering style{.height = 38,
+                    .stroke = 9.4,
+                    .ink = blend(PAPER_SHADE, INK, 0.3),
+                    .halo = 0,
+                    .haloInk = {},
+                    .stretch = 0.98,
+                    .nib = 0.42};
+    drawLettering(cr, "Gravelon", TITLE + Spot{3.2, 3.6}, style);
+    style.ink = RED;
+    drawLettering(cr, "Gravelon", TITLE, style);
 }
 
 enum class Card { WHITE, EITHER };

@@ -88,6 +88,17 @@ void tracePen(cairo_t* cr, std::string_view path, Spot origin, double unitX, dou
     }
 }
 
+void strokeWithNib(cairo_t* cr, double width, double nib)
+{
+    constexpr double ASLANT = -0.5; // radians
+    cairo_save(cr);
+    cairo_rotate(cr, ASLANT);
+    cairo_scale(cr, 1, nib);
+    cairo_set_line_width(cr, width);
+    cairo_stroke_preserve(cr);
+    cairo_restore(cr);
+}
+
 double gapOf(const Lettering& style)
 {
     return style.stroke + style.height * 0.09;
@@ -120,11 +131,10 @@ void drawLettering(cairo_t* cr, std::string_view text, Spot centre, const Letter
     cairo_set_line_cap(cr, CAIRO_LINE_CAP_ROUND);
     if (style.halo > 0) {
         setColour(cr, style.haloInk);
-        cairo_set_line_width(cr, style.stroke + 2 * style.halo);
-        cairo_stroke_preserve(cr);
+        strokeWithNib(cr, style.stroke + 2 * style.halo, style.nib);
     }
     setColour(cr, style.ink);
-    cairo_set_line_width(cr, style.stroke);
-    cairo_stroke(cr);
+    strokeWithNib(cr, style.stroke, style.nib);
+    cairo_new_path(cr);
     cairo_set_line_cap(cr, CAIRO_LINE_CAP_BUTT);
 }

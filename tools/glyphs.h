@@ -14,6 +14,7 @@ struct Lettering {
     double halo = 0; // width of a rim round the pen, 0 for none
     Colour haloInk{1, 1, 1};
     double stretch = 1; // wider or narrower than tall
+    double nib = 1;     // of a broad pen held aslant: how thin its thin strokes are
 };
 
 // Width of a line of lettering; characters without a glyph take the space of a blank.

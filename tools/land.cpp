@@ -85,8 +85,8 @@ Colour meadow(Spot at)
 {
     const double broad = swell(at.x, at.y, 120, 1);
     const double fine = swell(at.x, at.y, 14, 2);
-    const Colour green = blend(rgb(0xa7b877), rgb(0x8fa868), broad);
-    return blend(green, rgb(0xbcbf88), 0.35 * fine);
+    const Colour green = blend(rgb(0x97a968), rgb(0x7e9859), broad);
+    return blend(green, rgb(0xabb078), 0.35 * fine);
 }
 
 Colour hillside(Spot at, double height)

@@ -35,10 +35,9 @@ void markKept(LandMap& map, const std::vector<Square>& squares,
 }
 
 // One pass of the distance transform; step 1 from the top left, -1 from the bottom right.
-void spread(LandMap& map, int step)
+void spread(LandMap& map, int step, float side)
 {
-    constexpr float SIDE = 1.0F * UNITS;
-    constexpr float DIAGONAL = 1.4142F * UNITS;
+    const float diagonal = 1.4142F * side;
     const auto cell = [&](int x, int y) -> float& {
         return map.distance[static_cast<std::size_t>(y * map.width + x)];
     };
@@ -53,10 +52,10 @@ void spread(LandMap& map, int step)
                 if (inside(x + dx, y + dy))
                     cell(x, y) = std::min(cell(x, y), cell(x + dx, y + dy) + cost);
             };
-            take(-step, 0, SIDE);
-            take(0, -step, SIDE);
-            take(-step, -step, DIAGONAL);
-            take(step, -step, DIAGONAL);
+            take(-step, 0, side);
+            take(0, -step, side);
+            take(-step, -step, diagonal);
+            take(step, -step, diagonal);
         }
     }
 }
@@ -70,9 +69,14 @@ LandMap mapLand(const std::vector<Square>& squares, const std::vector<Outline>& 
     map.height = static_cast<int>(BOARD_HEIGHT) / UNITS;
     map.distance.reserve(static_cast<std::size_t>(map.width * map.height));
     markKept(map, squares, reserved);
-    spread(map, 1);
-    spread(map, -1);
+    spreadDistances(map, UNITS);
     return map;
+}
+
+void spreadDistances(LandMap& map, int units)
+{
+    spread(map, 1, static_cast<float>(units));
+    spread(map, -1, static_cast<float>(units));
 }
 
 double clearance(const LandMap& map, Spot at)

@@ -15,5 +15,9 @@ struct LandMap {
 // Distances from the road and, if given, from further outlines.
 LandMap mapLand(const std::vector<Square>& squares, const std::vector<Outline>& reserved);
 
+// Lets every cell know its distance from the nearest one that has 0 or little; a cell is so many
+// units wide.
+void spreadDistances(LandMap& map, int units);
+
 // 0 on kept ground; spots outside the board count as on its edge.
 double clearance(const LandMap& map, Spot at);

@@ -84,7 +84,8 @@ double crowding(const NumberPlace& number, const Square& square, const std::vect
                 const std::vector<NumberPlace>& placed)
 {
     const double covered = lacking(gapToPawn(number, square.centre), 0.5);
-    double sum = covered * (2 + covered);
+    double sum =
+        covered * (3 + 1.5 * covered) + 1.2 * lacking(gapToPawn(number, square.centre), 4.5);
     for (const Square& other : squares) {
         if (&other != &square && lengthOf(other.centre - number.at) < 40)
             sum += 2 * lacking(gapToPawn(number, other.centre), 0.5);
@@ -92,7 +93,7 @@ double crowding(const NumberPlace& number, const Square& square, const std::vect
     for (const NumberPlace& other : placed) {
         const Spot off = other.at - number.at;
         if (!other.text.empty() && lengthOf(off) < 60)
-            sum += 4 * std::min(lacking(std::abs(off.x) - number.halfWidth - other.halfWidth, 6.5),
+            sum += 4 * std::min(lacking(std::abs(off.x) - number.halfWidth - other.halfWidth, 8.5),
                                 lacking(std::abs(off.y) - 2 * NUMBER_HALF_HEIGHT, 1));
     }
     return sum;
@@ -108,14 +109,15 @@ double overlap(const NumberPlace& number, const Square& square, double along, do
     const double side = lengthOf(point.right - point.left) / 2 -
                         halfAlong(number, unitOf(point.right - point.left));
     const auto line = [&](int lane) { return wallBeside(square, lane) ? WALL_WIDTH / 2 : 1.2; };
-    const double over = lacking(end, 3);
-    return over * (2 + over) + 0.1 * std::abs(end - 10) + 0.3 * std::abs(aside) +
-           2 * lacking(side - aside, line(square.lane)) +
-           2 * lacking(side + aside, line(square.lane - 1));
+    const auto cost = [](double over) { return over * (2 + over); };
+    return cost(lacking(end, 2.4)) + 0.1 * std::abs(end - 6) + 0.3 * std::abs(aside) +
+           cost(lacking(side - aside, line(square.lane))) +
+           cost(lacking(side + aside, line(square.lane - 1)));
 }
 
-// Numbers stand towards the begin of a square, unless it is cut away or they stand better at its
-// end.
+// Numbers stand towards the begin of a square, unless it is cut away or has no room for them.
+constexpr double AT_END = 25;
+
 NumberPlace placeNumber(const Square& square, const std::vector<Square>& squares,
                         const std::vector<NumberPlace>& placed)
 {
@@ -137,7 +139,7 @@ NumberPlace placeNumber(const Square& square, const std::vector<Square>& squares
             for (double aside = -6; aside <= 6; aside += 1) {
                 number.at = point.middle + unitOf(point.right - point.left) * aside;
                 const double cost = crowding(number, square, squares, placed) +
-                                    overlap(number, square, along, aside) + (atEnd ? 9 : 0);
+                                    overlap(number, square, along, aside) + (atEnd ? AT_END : 0);
                 if (cost < least) {
                     least = cost;
                     best = number;
@@ -167,6 +169,24 @@ void paintNumber(cairo_t* cr, const Square& square, const NumberPlace& number)
     const double light = square.terrain == TERRAIN_COBBLES ? 0.85 : 0.55;
     style.haloInk = onDark ? blend(ground, rgb(0x200a0c), 0.55) : blend(ground, PAPER, light);
     drawLettering(cr, number.text, number.at, style);
+}
+
+// Where a number at the end of a square meets that at the begin of the next, a darker line parts
+// them.
+void partNumbers(cairo_t* cr, const std::vector<Square>& squares,
+                 const std::vector<NumberPlace>& numbers)
+{
+    for (std::size_t i = 0; i < squares.size(); ++i) {
+        if (numbers[i].text.empty() || !numbers[i].atEnd)
+            continue;
+        const LanePoint& end = squares[i].run.back();
+        for (std::size_t k = 0; k < squares.size(); ++k) {
+            const LanePoint& begin = squares[k].run.front();
+            if (!numbers[k].text.empty() && !numbers[k].atEnd &&
+                lengthOf(begin.middle - end.middle) < 6)
+                strokeLine(cr, {end.left, end.right}, false, 4.6, INK);
+        }
+    }
 }
 
 void drawArrow(cairo_t* cr, Spot centre, Spot direction, double length, Colour colour, double alpha)
@@ -386,6 +406,7 @@ void paintMarks(cairo_t* cr, const std::vector<Square>& squares)
     const std::vector<NumberPlace> numbers = placeNumbers(squares);
     for (std::size_t i = 0; i < squares.size(); ++i)
         paintArrow(cr, squares[i], numbers[i]);
+    partNumbers(cr, squares, numbers);
     paintWalls(cr);
     paintEndLines(cr);
     for (std::size_t i = 0; i < squares.size(); ++i)

@@ -2,5 +2,11 @@
 
 #include "land_map.h"
 
-// Draws summits on the high ground, wherever there is room beside what map keeps clear.
-void paintMountains(cairo_t* cr, const LandMap& map);
+// Where the peaks stand; no tree grows there.
+std::vector<Outline> mountainGround();
+
+// Ranges of peaks, each from its farthest and smallest to its nearest and largest.
+void paintMountains(cairo_t* cr);
+
+// The shade that they throw on what lies to their right; to be clipped to the road.
+void shadeBesideMountains(cairo_t* cr);

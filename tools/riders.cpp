@@ -16,14 +16,16 @@ constexpr Colour RIM = rgb(0xb9bcc0);
 constexpr Colour SOCK = rgb(0xf0f0ea);
 constexpr Colour SHOE = rgb(0x3a3a40);
 
+constexpr double RIM_WIDTH = 2.5;
+
 // clang-format off
-//                          jersey         trim           shorts         frame
+//   jersey         trim           shorts         sleeve         frame          pattern
 constexpr std::array<Kit, RIDER_PICTURE_COUNT> KITS = {{
-    {rgb(0x1fa83c), rgb(0xf2f4ee), rgb(0x1c3a24), rgb(0xd7dad6)},
-    {rgb(0xd9232b), rgb(0xf4efe8), rgb(0x3d1517), rgb(0xd8d2ca)},
-    {rgb(0x34353b), rgb(0xe9e9e6), rgb(0x202126), rgb(0xe4e4e0)},
-    {rgb(0x2a5fd0), rgb(0xeef2f8), rgb(0x16264e), rgb(0xdfd9c6)},
-    {rgb(0xf4b73c), rgb(0xfff3d8), rgb(0x3a2c14), rgb(0xb83a2a)},
+    {rgb(0x1fa83c), rgb(0xf6f8f2), rgb(0xf6f8f2), rgb(0x1fa83c), rgb(0xd7dad6), Pattern::PLAIN},
+    {rgb(0xd9232b), rgb(0xfaf6f0), rgb(0x2a1214), rgb(0xd9232b), rgb(0xd8d2ca), Pattern::HOOPS},
+    {rgb(0x2a2b30), rgb(0xf6f6f4), rgb(0x1c1d21), rgb(0xf6f6f4), rgb(0xe4e4e0), Pattern::HALVES},
+    {rgb(0xf4f6fb), rgb(0x2454d6), rgb(0xf8fafd), rgb(0x2454d6), rgb(0x4f74d8), Pattern::DOTS},
+    {rgb(0xf4b73c), rgb(0xfff3d8), rgb(0x2a2014), rgb(0xf4b73c), rgb(0xb83a2a), Pattern::PLAIN},
 }};
 // clang-format on
 
@@ -52,7 +54,7 @@ struct Pen {
 
     void line(const Outline& points, double width, Colour colour) const
     {
-        limb(cr, points, width + (rim ? 3.4 : 0), rim ? OUTLINE : colour);
+        limb(cr, points, width + (rim ? RIM_WIDTH : 0), rim ? OUTLINE : colour);
     }
     void ring(Spot centre, double radius, double width, Colour colour) const
     {
@@ -64,7 +66,7 @@ struct Pen {
     void shape(const Outline& points, Colour colour) const
     {
         if (rim)
-            strokeLine(cr, points, true, 3.4, OUTLINE);
+            strokeLine(cr, points, true, RIM_WIDTH, OUTLINE);
         fillShape(cr, points, rim ? OUTLINE : colour);
     }
 };
@@ -101,6 +103,26 @@ void drawLeg(const Pen& pen, Spot knee, Spot foot, bool near, const Kit& kit)
     pen.line({HIP + Spot{1, 1.5}, blend(HIP, knee, 0.66)}, 8.6, shorts);
 }
 
+// Bold enough to be seen on a rider who is 35 pixels high on the screen.
+void drawPattern(cairo_t* cr, const Kit& kit)
+{
+    switch (kit.pattern) {
+    case Pattern::PLAIN:
+        return;
+    case Pattern::HOOPS: // round the chest, so they stand across the slope of the back
+        for (const double x : {37.5, 50.0})
+            strokeLine(cr, {{x - 3.6, 10}, {x + 6, 42}}, false, 6, kit.trim);
+        return;
+    case Pattern::HALVES:
+        fillShape(cr, {{44, 10}, {70, 10}, {70, 42}, {51, 42}}, kit.trim);
+        return;
+    case Pattern::DOTS:
+        for (const Spot& dot : {Spot{36, 31}, Spot{44.6, 22.4}, Spot{54.6, 21.6}})
+            fillEllipse(cr, dot, 4.4, 4.4, kit.trim);
+        return;
+    }
+}
+
 void drawBody(const Pen& pen, const Kit& kit)
 {
     const Outline torso{{30.5, 32}, {33, 25.5}, {41, 19.5}, {51, 15.8}, {58, 15.6}, {62.6, 18.6},
@@ -108,17 +130,21 @@ void drawBody(const Pen& pen, const Kit& kit)
     pen.shape(torso, kit.jersey);
     if (pen.rim)
         return;
+    cairo_save(pen.cr);
+    tracePath(pen.cr, torso, true);
+    cairo_clip(pen.cr);
     fillShape(pen.cr,
               {{33, 25.5}, {41, 19.5}, {51, 15.8}, {58, 15.6}, {52, 18.4}, {42, 23}, {35, 29}},
               blend(kit.jersey, {1, 1, 1}, 0.28));
-    fillShape(pen.cr, {{44.5, 17.8}, {49, 16.2}, {52.6, 28}, {48.4, 29.8}}, kit.trim);
+    drawPattern(pen.cr, kit);
+    cairo_restore(pen.cr);
 }
 
 void drawArm(const Pen& pen, const Kit& kit)
 {
     pen.line({ELBOW, HAND + Spot{-0.6, 0}}, 4.4, SKIN);
     pen.line({HAND + Spot{-1.4, 0}, HAND + Spot{0.6, 0.6}}, 4.4, TYRE);
-    pen.line({SHOULDER, blend(SHOULDER, ELBOW, 0.9)}, 6.4, kit.jersey);
+    pen.line({SHOULDER, blend(SHOULDER, ELBOW, 0.9)}, 6.4, kit.sleeve);
 }
 
 void drawHead(const Pen& pen, const Kit& kit)

@@ -6,11 +6,17 @@
 constexpr double CYCLIST_WIDTH = 93;
 constexpr double CYCLIST_HEIGHT = 82;
 
+// Teams are told apart by more than their colour, which not every eye can do: by the pattern of the
+// jersey, and by light or dark shorts.
+enum class Pattern { PLAIN, HOOPS, HALVES, DOTS };
+
 struct Kit {
     Colour jersey;
-    Colour trim; // a band on the jersey and the helmet
+    Colour trim; // of the pattern and the helmet
     Colour shorts;
+    Colour sleeve;
     Colour frame;
+    Pattern pattern;
 };
 
 constexpr int RIDER_PICTURE_COUNT = 5; // the four teams, then the winner of a sprint

@@ -9,8 +9,6 @@
 namespace
 {
 
-constexpr Colour KERB_DARK = rgb(0x3a332e);
-constexpr Colour KERB = rgb(0xe9e4d8);
 constexpr Colour SQUARE_LINE = rgb(0x3b3430);
 
 struct Shades {
@@ -132,20 +130,51 @@ void drawStreaks(cairo_t* cr, const Outline& shape, Colour base, Spot direction,
     cairo_restore(cr);
 }
 
-void strokeAll(cairo_t* cr, const std::vector<Square>& squares, double width, Colour colour,
-               double alpha)
+// Across the lane, 0 its left side and 1 its right one.
+Outline lineAlong(const Square& square, double across)
 {
-    for (const Square& square : squares)
-        strokeLine(cr, square.outline, true, width, colour, alpha);
+    Outline line;
+    for (const LanePoint& point : square.run)
+        line.push_back(blend(point.left, point.right, across));
+    return line;
 }
 
-void castShadow(cairo_t* cr, const std::vector<Square>& squares)
+// Asphalt has a life behind it: dark tracks where wheels run, mended places and cracks.
+void wearAsphalt(cairo_t* cr, const Square& square)
 {
-    cairo_push_group(cr);
-    cairo_translate(cr, 4, 6);
-    strokeAll(cr, squares, 16, rgb(0x20281c), 1);
-    cairo_pop_group_to_source(cr);
-    cairo_paint_with_alpha(cr, 0.35);
+    const int seed = square.section * 1000 + square.row * 10 + square.lane;
+    cairo_save(cr);
+    tracePath(cr, square.outline, true);
+    cairo_clip(cr);
+    fillShape(cr, square.outline, chance(seed, 1, 71) < 0.5 ? rgb(0x8f8b84) : rgb(0xe6e6ea),
+              0.2 * chance(seed, 2, 71));
+    for (const double across : {0.24, 0.76}) {
+        strokeLine(cr, lineAlong(square, across), false, 12, rgb(0x777a84), 0.10);
+        strokeLine(cr, lineAlong(square, across), false, 6, rgb(0x6b6e78), 0.09);
+    }
+    const double begin = square.run.front().along;
+    const double length = square.run.back().along - begin;
+    if (chance(seed, 3, 71) < 0.13) {
+        const double from = begin + length * (0.1 + 0.5 * chance(seed, 4, 71));
+        const LanePoint a = pointOnSquare(square, from);
+        const LanePoint b = pointOnSquare(square, from + 18 + 16 * chance(seed, 5, 71));
+        const double left = chance(seed, 6, 71) < 0.5 ? 0.05 : 0.5;
+        const Outline patch{blend(a.left, a.right, left), blend(b.left, b.right, left),
+                            blend(b.left, b.right, left + 0.45),
+                            blend(a.left, a.right, left + 0.45)};
+        fillShape(cr, patch, rgb(0x868992), 0.35);
+        strokeLine(cr, patch, true, 1.2, rgb(0x565963), 0.4);
+    }
+    if (chance(seed, 7, 71) < 0.2) {
+        const double from = begin + length * (0.2 + 0.6 * chance(seed, 8, 71));
+        Outline crack;
+        for (int i = 0; i <= 6; ++i) {
+            const LanePoint point = pointOnSquare(square, from + 9 * (chance(i, seed, 72) - 0.5));
+            crack.push_back(blend(point.left, point.right, 0.05 + 0.15 * i));
+        }
+        strokeLine(cr, crack, false, 1.3, rgb(0x4f5058), 0.55);
+    }
+    cairo_restore(cr);
 }
 
 // A light edge on the side of the sun and a dark one away from it give each square a slight bevel.
@@ -191,13 +220,12 @@ void paintSurface(cairo_t* cr, const Outline& shape, int terrain, int modifier, 
 
 void paintRoad(cairo_t* cr, const std::vector<Square>& squares)
 {
-    castShadow(cr, squares);
-    strokeAll(cr, squares, 13, KERB_DARK, 1);
-    strokeAll(cr, squares, 9.5, KERB, 1);
     // The first in the list are painted last: the start grids rule where sections overlap.
     for (auto square = squares.rbegin(); square != squares.rend(); ++square) {
         paintSurface(cr, square->outline, square->terrain, square->modifier,
                      directionOnSquare(*square, 0));
+        if (square->terrain == TERRAIN_FLAT)
+            wearAsphalt(cr, *square);
         bevel(cr, *square);
         strokeLine(cr, square->outline, true, 2.4, SQUARE_LINE, 0.95);
     }

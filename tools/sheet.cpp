@@ -267,7 +267,67 @@ void drawHills(cairo_t* cr, double base, double rise, int seed, Colour colour, d
     fillShape(cr, hills, colour);
 }
 
-// A landscape as the head of the sheet: the four teams on the road behind the leader.
+// One of the first three, upright with his arms up. The pattern lies on the jersey as on the road.
+void drawWinner(cairo_t* cr, Spot foot, const Kit& kit)
+{
+    constexpr Colour SKIN = rgb(0xd99a6c);
+    const auto part = [&](const Outline& line, double width, Colour colour) {
+        cairo_set_line_cap(cr, CAIRO_LINE_CAP_ROUND);
+        strokeLine(cr, line, false, width + 3, INK);
+        strokeLine(cr, line, false, width, colour);
+    };
+    for (const double side : {-1.0, 1.0}) {
+        part({foot + Spot{4 * side, -18}, foot + Spot{5 * side, -2}}, 5, SKIN);
+        part({foot + Spot{4 * side, -26}, foot + Spot{4.6 * side, -17}}, 7, kit.shorts);
+        part({foot + Spot{14 * side, -56}, foot + Spot{18 * side, -69}}, 4.4, SKIN);
+        part({foot + Spot{7 * side, -48}, foot + Spot{14 * side, -56}}, 6, kit.sleeve);
+    }
+    const Outline torso{foot + Spot{-10, -51}, foot + Spot{10, -51}, foot + Spot{8, -26},
+                        foot + Spot{-8, -26}};
+    strokeLine(cr, torso, true, 3, INK);
+    fillShape(cr, torso, kit.jersey);
+    if (kit.pattern == Pattern::HOOPS)
+        for (const double y : {-44.0, -34.0})
+            fillShape(cr,
+                      {foot + Spot{-9, y}, foot + Spot{9, y}, foot + Spot{8.6, y + 5},
+                       foot + Spot{-8.6, y + 5}},
+                      kit.trim);
+    if (kit.pattern == Pattern::DOTS)
+        for (const Spot& dot : {Spot{-4, -45}, Spot{4, -38}, Spot{-3, -31}})
+            fillEllipse(cr, foot + dot, 3.4, 3.4, kit.trim);
+    fillEllipse(cr, foot + Spot{0, -60}, 8, 9, INK);
+    fillEllipse(cr, foot + Spot{0, -60}, 6.5, 7.5, SKIN);
+    fillShape(
+        cr, {foot + Spot{-7, -61}, foot + Spot{-5, -68}, foot + Spot{5, -68}, foot + Spot{7, -61}},
+        kit.pattern == Pattern::DOTS ? kit.trim : kit.jersey);
+}
+
+// The steps that the first three stand on, the winner in the middle.
+void drawHonours(cairo_t* cr, Spot foot)
+{
+    struct Step {
+        double x, height;
+        const char* place;
+        int kit;
+        Colour face;
+    };
+    constexpr Step STEPS[] = {{-74, 30, "2", 3, rgb(0xb9c3cc)},
+                              {74, 20, "3", 1, rgb(0xcf9a6a)},
+                              {0, 44, "1", 4, rgb(0xe6bb4a)}};
+    for (const Step& step : STEPS) {
+        const Spot at = foot + Spot{step.x, 0};
+        drawWinner(cr, at - Spot{0, step.height}, kitOf(step.kit));
+        const Outline block{at + Spot{-36, 0}, at + Spot{-36, -step.height},
+                            at + Spot{36, -step.height}, at + Spot{36, 0}};
+        strokeLine(cr, block, true, 4, INK);
+        fillShape(cr, block, step.face);
+        fillShape(cr, {block[1], block[2], block[2] + Spot{0, 6}, block[1] + Spot{0, 6}},
+                  blend(step.face, PAPER, 0.5));
+        write(cr, step.place, at - Spot{0, step.height / 2 - 3}, step.height * 0.42, INK);
+    }
+}
+
+// A landscape as the head of the sheet: the first three on their steps, and the others coming in.
 void drawVignette(cairo_t* cr)
 {
     constexpr double TOP = 122;
@@ -283,10 +343,11 @@ void drawVignette(cairo_t* cr)
     drawHills(cr, 258, 40, 37, rgb(0x8db47c), BOTTOM);
     area(cr, 60, 264, 1012, BOTTOM, rgb(0xe6dfcf));
     area(cr, 60, 260, 1012, 265, rgb(0x6d675c));
-    const double places[] = {250, 395, 520, 660, 850};
-    const int order[] = {2, 0, 3, 1, 4};
-    for (int i = 0; i < 5; ++i)
+    const double places[] = {125, 236, 372, 478};
+    const int order[] = {1, 0, 3, 2};
+    for (int i = 0; i < 4; ++i)
         placeCyclist(cr, {places[i], 234}, 88, kitOf(order[i]));
+    drawHonours(cr, {770, 286});
     cairo_restore(cr);
     lineAcross(cr, TOP, 60, 1010);
     lineAcross(cr, BOTTOM, 60, 1010);

@@ -116,7 +116,7 @@ static void drawWinnerOnPodium()
 static void drawPlane()
 {
     glDisable(GL_DEPTH_TEST);
-    glCallList(lists.boardList);
+    glCallList(view.viewMode == VIEW_FLAT ? lists.boardList : lists.slantedBoardList);
     if (gameState == STATE_PLACE_HUMAN)
         drawPlacingCursor();
 }

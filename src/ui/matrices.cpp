@@ -12,6 +12,11 @@ Matrices matrices;
 
 constexpr double CAMERA_ASPECT = 1.15; // a constant of the picture, not the viewport's own
 
+// No camera comes nearer to the board than its own height. A plane much nearer than that would
+// leave the depth buffer too few steps to tell riders of neighbouring lanes apart.
+constexpr double NEAR_PLANE = 100.0;
+constexpr double FAR_PLANE = 3000.0;
+
 static Matrix matrixOnTop(GLenum which)
 {
     Matrix matrix{};
@@ -30,7 +35,7 @@ static Matrix orthographic(double left, double right, double bottom, double top)
 static Matrix perspective(const Eye& eye)
 {
     glLoadIdentity();
-    gluPerspective(60.0, CAMERA_ASPECT, 0.01, 3000.0);
+    gluPerspective(60.0, CAMERA_ASPECT, NEAR_PLANE, FAR_PLANE);
     gluLookAt(eye.x, eye.y, eye.z, cameraTarget.x, cameraTarget.y, cameraTarget.z, 0.0, 0.0, 1.0);
     return matrixOnTop(GL_PROJECTION_MATRIX);
 }

@@ -10,6 +10,7 @@ struct DisplayLists {
     Table<unsigned, 6> pawnTopLists{}; // 0 flat outline, 1 to 4 the teams' figures, 5 the winner's
     Table<unsigned, 6> pawnTurnedLists{}; // 1 to 5 as above, the figure turned by 90 degrees
     unsigned boardList = 0;
+    unsigned slantedBoardList = 0; // the same for the perspective view
     unsigned cardOuterList = 0;
     unsigned cardFrameList = 0;
     unsigned cardInnerList = 0;
@@ -46,6 +47,6 @@ constexpr int teamFigure(int team)
 // to choose the side of the figure that the camera in use sees best.
 void drawStandingPawn(int figure, float x, float y, double heading);
 
-// Whether a figure that stands across its way of travel would show less of itself to the camera in
-// use than one that stands along it. False without a perspective camera.
+// Whether the figure rides along its way of travel, rather than stand across it: wherever the
+// camera in use sees enough of its side. False without a perspective camera.
 bool figureTurned(float x, float y, double heading);

@@ -140,8 +140,8 @@ TEST_F(FigureTest, ShowsItsSideToEveryCamera)
         const double towards = std::atan2(boardY - Y, cameraEyes[i].x - X);
         EXPECT_FALSE(figureTurned(X, Y, towards)) << i;
         EXPECT_FALSE(figureTurned(X, Y, towards + 2.0 * HALF_PI)) << i;
-        EXPECT_FALSE(figureTurned(X, Y, towards + 0.7)) << i;
-        EXPECT_TRUE(figureTurned(X, Y, towards + 0.9)) << i;
+        EXPECT_FALSE(figureTurned(X, Y, towards + 0.4)) << i;
+        EXPECT_TRUE(figureTurned(X, Y, towards + 0.45)) << i;
         EXPECT_TRUE(figureTurned(X, Y, towards + HALF_PI)) << i;
         EXPECT_TRUE(figureTurned(X, Y, towards - HALF_PI)) << i;
     }
