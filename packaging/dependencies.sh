@@ -10,7 +10,7 @@ BUILD_PACKAGES=(
 )
 
 # Makes a package of it.
-PACKAGE_PACKAGES=(dpkg-dev gzip)
+PACKAGE_PACKAGES=(dpkg-dev file gzip)
 
 # Shows its window: Mesa's drivers, and xdpyinfo and xprop, which tell whether a display will do.
 RUN_PACKAGES=(libgl1-mesa-dri x11-utils)

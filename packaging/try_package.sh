@@ -147,6 +147,7 @@ tryAll()
     onDisplay playInstalled "$PWD/root/usr/games/gravelon"
     (tryPlay)
     trap - EXIT
+    chmod -R u+w .
     rm -rf "$PWD"
 }
 

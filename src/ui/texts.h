@@ -9,8 +9,8 @@
 
 extern Texts texts;
 
-// The two lines that stand on every frame, whatever the language. The words of the foot line are the
-// same in all four.
+// The two lines that stand on every frame, whatever the language. The words of the foot line are
+// the same in all four.
 constexpr std::string_view headLine = "Gravelon " GRAVELON_VERSION " for Windows XP";
 constexpr std::string_view footLine = "Gravelon: Peloton, Sprint, Finale";
 

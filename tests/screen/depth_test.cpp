@@ -27,8 +27,8 @@ Pair pairBefore(const Eye& eye)
         for (int lane = 0; lane + 1 < COURSE_LANES; ++lane) {
             if (!isRealSquare(squareAt(row, lane)) || !isRealSquare(squareAt(row, lane + 1)))
                 continue;
-            const BoardPoint a = boardPointOfSquare(row, lane, 0);
-            const BoardPoint b = boardPointOfSquare(row, lane + 1, 1);
+            const BoardPoint a = boardPointOfSquare(row, lane, race.riders[0].heading);
+            const BoardPoint b = boardPointOfSquare(row, lane + 1, race.riders[1].heading);
             if (std::abs(race.riders[0].heading - race.riders[1].heading) > 0.01)
                 continue; // in a bend their wheels may cross
             const double alongX = static_cast<double>(b.x - a.x);
