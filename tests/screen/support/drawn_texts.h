@@ -1,0 +1,22 @@
+#pragma once
+
+#include "screen/support/gl_window.h"
+
+#include <string>
+#include <vector>
+
+// What the screen says. The test program is linked so that every drawText and drawDialogBox is
+// noted on its way.
+
+struct DrawnText {
+    std::string words;
+    Rect place; // from its left end, as high as a capital letter
+    Pixel colour;
+    bool onBox; // of the dialog or the score sheet, which lie on top
+};
+
+// Paints a frame and tells its texts, in the order in which they were drawn.
+std::vector<DrawnText> drawnTexts();
+
+// The words of a frame that begin within a place of the drawing area, with a bar between texts.
+std::string wordsAt(const Rect& place);
