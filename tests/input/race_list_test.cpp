@@ -1,15 +1,16 @@
 #include "app/game_state.h"
+#include "app/host.h"
 #include "app/settings.h"
 #include "app/view.h"
-#include "board/course.h"
 #include "race/race_state.h"
-#include "screen/support/gl_window.h"
+#include "screen/support/drawn_texts.h"
 #include "screen/support/player.h"
 #include "store/race_file.h"
+#include "support/fake_host.h"
 #include "support/own_folder.h"
-#include "screen/support/old_places.h"
 #include "ui/frame.h"
 #include "ui/layout.h"
+#include "ui/places.h"
 #include "ui/race_list.h"
 #include "ui/team_setup.h"
 #include "ui/texts.h"
@@ -18,27 +19,20 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 
 namespace
 {
 
-constexpr char TAB = 9;
+using Messages = std::vector<std::string>;
 
 // The main menu, in a folder of its own.
 class RaceListTest : public testing::Test
 {
 protected:
     void SetUp() override { startProgram(1280, 1024); }
-
-    static void writeEmptyRaces(int count)
-    {
-        writeRace("R0.race");
-        for (int i = 1; i < count; ++i)
-            std::filesystem::copy_file("R0.race",
-                                       std::string("R").append(std::to_string(i)).append(".race"));
-    }
 
     // A race of so many stages, each won by the team's first rider.
     static void writeRaceOf(const std::string& fileName, int team, int stages)
@@ -70,10 +64,22 @@ protected:
         ASSERT_EQ(raceSetup.raceFileName, fileName);
     }
 
-    void type(std::string_view keys)
+    // From the team setup over the last course to the end of the stage, of computers alone.
+    void raceAStage()
     {
-        for (const char key : keys)
-            player.key(key);
+        settings.stepDistance = 999.0f;
+        host.redraw = nullptr; // nobody looks
+        std::srand(1);
+        player.hover(coursePicture(3));
+        player.click(coursePicture(3));
+        while (gameState != STATE_FINAL_SCORECARD) {
+            if (gameState == STATE_ANIMATE)
+                ASSERT_TRUE(runTick());
+            else
+                player.key(gameState == STATE_ORDER_RESULT ? 'n' : 'o');
+        }
+        host.redraw = drawFrame;
+        player.click(CONTROL_SHEET_QUIT);
     }
 
     OwnFolder here;
@@ -82,19 +88,51 @@ protected:
 
 } // namespace
 
+// The results of a race are its own: neither those of the race last looked at, nor lost.
+TEST_F(RaceListTest, ANewRaceKeepsNothingOfTheOneLookedAtLast)
+{
+    writeRaceOf("Tour.race", 2, 3);
+    player.click(CONTROL_CONTINUE);
+    choose("Tour.race");
+    player.click({CONTROL_LIST_SCORECARD, CONTROL_SHEET_OK, CONTROL_LIST_BACK, CONTROL_START});
+    player.click(raceNameBox());
+    player.type("Giro");
+    player.click(CONTROL_TEAM_OK);
+    raceAStage();
+    ASSERT_TRUE(readRace("Giro.race"));
+    EXPECT_EQ(raceSetup.raceStages.size(), 1u);
+    ASSERT_TRUE(readRace("Tour.race"));
+    EXPECT_EQ(raceSetup.raceStages.size(), 3u);
+}
+
+TEST_F(RaceListTest, ARaceThatGoesOnBehindASingleStageIsSaved)
+{
+    writeRaceOf("Tour.race", 2, 3);
+    player.click({CONTROL_START, CONTROL_SINGLE_STAGE, CONTROL_TEAM_OK});
+    raceAStage();
+    player.click(CONTROL_CONTINUE);
+    choose("Tour.race");
+    player.click(CONTROL_LIST_OK);
+    raceAStage();
+    raceSetup.raceStages.clear();
+    ASSERT_TRUE(readRace("Tour.race"));
+    ASSERT_EQ(raceSetup.raceStages.size(), 4u);
+    EXPECT_EQ(raceSetup.raceStages[2].slots[FINISH_SLOT], 8);
+    EXPECT_EQ(raceSetup.raceStages[3].slots, race.resultSlots);
+}
+
 TEST_F(RaceListTest, ColumnsAreTurnedAsLongAsThereAreMore)
 {
-    writeEmptyRaces(raceListRows * raceListCols);
-    player.click("Continue");
-    ASSERT_EQ(gameState, STATE_RACE_FILES);
-    player.click(listNextButton());
+    writeRace("R0.race");
+    for (int i = 1; i < raceListRows * raceListCols; ++i)
+        std::filesystem::copy_file("R0.race", "R" + std::to_string(i) + ".race");
+    player.click({CONTROL_CONTINUE, CONTROL_LIST_NEXT});
     EXPECT_EQ(raceList.raceListPage, 0) << "all of them are on view";
 
     std::filesystem::copy_file("R0.race", "One more.race");
     drawFrame();
     EXPECT_EQ(raceList.raceFileList.size(), 81u) << "a new file shows up by itself";
-    player.click(listNextButton());
-    player.click(listNextButton());
+    player.click({CONTROL_LIST_NEXT, CONTROL_LIST_NEXT});
     EXPECT_EQ(raceList.raceListPage, 1);
     player.click(place(79));
     EXPECT_EQ(raceSetup.raceFileName, "") << "nothing stands there";
@@ -108,49 +146,43 @@ TEST_F(RaceListTest, ColumnsAreTurnedAsLongAsThereAreMore)
             std::filesystem::remove(entry.path());
     drawFrame();
     EXPECT_EQ(raceList.raceListPage, 0) << "the only race left is on view";
-    player.click("Back");
-    EXPECT_EQ(gameState, STATE_MAIN_MENU);
 }
 
 TEST_F(RaceListTest, TheRaceChosenIsYellowAndOpensAsItWasLeft)
 {
     raceSetup.teamName[2] = "Rockets";
-    for (int rider = 8; rider < 12; ++rider)
-        race.riders[rider].isHuman = 1;
+    race.riders[11].isHuman = race.riders[8].isHuman = 1;
     writeRaceOf("Tour.race", 2, 3);
     writeRaceOf("Giro.race", 0, 1);
     startProgram(1280, 1024);
-    player.click("Continue");
-    player.key('o');
-    player.click("OK");
-    player.key('s');
+    player.click({CONTROL_CONTINUE, CONTROL_LIST_OK, CONTROL_LIST_SCORECARD});
     EXPECT_EQ(gameState, STATE_RACE_FILES) << "no race is chosen";
     choose("Tour.race");
-    EXPECT_GT(countPixels(screenshot(), raceListFrame(), pixelOf(YELLOW)), 20);
+    for (const DrawnText& text : drawnTexts())
+        if (raceListFrame().contains(text.place.x, text.place.y)) {
+            EXPECT_EQ(text.colour == pixelOf(YELLOW), text.words == "Tour") << text.words;
+        }
     EXPECT_EQ(raceSetup.standingsFileName, "Tour.csv");
     EXPECT_EQ(racePreview.teamName[2], "Rockets");
     EXPECT_EQ(raceSetup.teamName[2], "Germany") << "not yet";
 
     view.scorecardStage = 7;
-    player.key('s');
-    ASSERT_EQ(gameState, STATE_RACE_STANDINGS);
+    player.click(CONTROL_LIST_SCORECARD);
     EXPECT_EQ(view.scorecardStage, 2);
-    player.key('o');
-    EXPECT_EQ(gameState, STATE_RACE_FILES);
+    player.click(CONTROL_SHEET_OK);
     choose("Giro.race");
     EXPECT_EQ(view.scorecardStage, 0);
 
     choose("Tour.race");
-    player.click("OK");
+    player.click(CONTROL_LIST_OK);
     EXPECT_EQ(gameState, STATE_COURSE_SELECT);
     EXPECT_EQ(raceSetup.teamName[2], "Rockets");
     EXPECT_EQ(race.riders[11].isHuman, 1);
     EXPECT_EQ(raceSetup.raceStages.size(), 3u);
-    player.click("Back");
+    player.click(CONTROL_COURSE_BACK);
     EXPECT_EQ(gameState, STATE_RACE_FILES);
     EXPECT_EQ(raceSetup.raceFileName, "Tour.race");
-    player.click("Back");
-    player.click("Continue");
+    player.click({CONTROL_LIST_BACK, CONTROL_CONTINUE});
     EXPECT_EQ(raceSetup.raceFileName, "") << "chosen anew each time";
 }
 
@@ -161,21 +193,19 @@ TEST_F(RaceListTest, AnyFileIsListedAndMayBeChosen)
                                  std::string(250, 'W') + ".race", "\"\"\"\"\"\"\"\"\"\"\".race"};
     for (const std::string& name : names)
         std::ofstream(name) << "";
-    player.click("Continue");
+    player.click(CONTROL_CONTINUE);
     for (const std::string& name : names) {
         choose(name);
-        player.click("Scorecard");
-        EXPECT_EQ(gameState, STATE_RACE_STANDINGS);
-        drawFrame();
-        player.click("OK");
+        player.click({CONTROL_LIST_SCORECARD, CONTROL_SHEET_OK});
+        EXPECT_EQ(gameState, STATE_RACE_FILES);
         EXPECT_EQ(view.scorecardStage, 0);
     }
-    // The long name ends within the frame.
+    // The long name ends within its column.
     const Rect frame = raceListFrame();
-    const Image image = screenshot();
-    for (float y = frame.y; y < frame.y + frame.h; y += 1.0f)
-        EXPECT_TRUE(closeTo(image.at(frame.x + layout.raceListColW, y), pixelOf(panelBlue), 1) ||
-                    closeTo(image.at(frame.x + layout.raceListColW, y), pixelOf(WHITE), 1));
+    for (const DrawnText& text : drawnTexts())
+        if (frame.contains(text.place.x, text.place.y)) {
+            EXPECT_LT(text.place.x + text.place.w, frame.x + layout.raceListColW) << text.words;
+        }
     EXPECT_EQ(shownFileName("Z\xC3\xBCrich"), "Z\xFCrich");
     EXPECT_EQ(shownFileName("Z\xFCrich"), "Z\xFCrich") << "no UTF-8: each byte a letter";
     EXPECT_EQ(shownFileName("a\nb\xC2\x85\x7F"), "a?b??");
@@ -186,86 +216,73 @@ TEST_F(RaceListTest, AnyFileIsListedAndMayBeChosen)
 TEST_F(RaceListTest, ARaceThatCantBeReadStaysOnTheList)
 {
     writeRaceOf("Tour.race", 0, 2);
-    player.click("Continue");
+    player.click(CONTROL_CONTINUE);
     choose("Tour.race");
     std::filesystem::rename("Tour.race", "away");
-    player.click("OK");
+    player.click(CONTROL_LIST_OK);
     EXPECT_EQ(gameState, STATE_RACE_FILES);
     EXPECT_EQ(raceList.raceFileList.size(), 0u);
     std::filesystem::rename("away", "Tour.race");
-    player.click("OK");
-    EXPECT_EQ(gameState, STATE_COURSE_SELECT);
+    player.click(CONTROL_LIST_OK);
     EXPECT_EQ(raceSetup.raceStages.size(), 2u);
 }
 
 TEST_F(RaceListTest, ANewRaceNeedsANameThatIsNotTaken)
 {
     writeRaceOf("Tour 1.race", 0, 1);
-    player.click("Start");
-    ASSERT_TRUE(raceSetup.multiStage);
-    player.click("OK");
+    player.click({CONTROL_START, CONTROL_TEAM_OK});
     ASSERT_EQ(gameState, STATE_SETUP_MESSAGE);
-    EXPECT_EQ(teamSetup.setupMessages, std::vector<std::string>{"Enter a race name"});
-    player.click("OK");
+    EXPECT_EQ(teamSetup.setupMessages, Messages{"Enter a race name"});
+    player.click(CONTROL_SETUP_MESSAGE_OK);
     player.click(raceNameBox());
-    type("Tour 1");
-    player.click("OK");
-    ASSERT_EQ(gameState, STATE_SETUP_MESSAGE);
-    EXPECT_EQ(teamSetup.setupMessages,
-              std::vector<std::string>{"Race name \"Tour 1\" already exists"});
-    player.key('o');
-    type("\xFC");
+    player.type("Tour 1");
+    player.click(CONTROL_TEAM_OK);
+    EXPECT_EQ(teamSetup.setupMessages, Messages{"Race name \"Tour 1\" already exists"});
+    player.type("o\xFC");
     std::filesystem::create_symlink("nowhere", "Tour 1\xC3\xBC.race");
-    player.click("OK");
-    EXPECT_EQ(gameState, STATE_SETUP_MESSAGE)
-        << "a link or a folder of that name is in the way, too";
+    player.click(CONTROL_TEAM_OK);
+    EXPECT_EQ(gameState, STATE_SETUP_MESSAGE) << "a link of that name is in the way, too";
     std::filesystem::remove("Tour 1\xC3\xBC.race");
-    player.key('o');
-    player.click(eventCardsBox());
+    player.click({CONTROL_SETUP_MESSAGE_OK, CONTROL_EVENT_CARDS, CONTROL_TEAM_OK});
     EXPECT_FALSE(raceSetup.eventCardsOn);
-    player.click("OK");
     EXPECT_EQ(gameState, STATE_COURSE_SELECT);
     EXPECT_EQ(raceSetup.raceFileName, "Tour 1\xC3\xBC.race") << "file names are UTF-8";
     EXPECT_EQ(raceSetup.standingsFileName, "Tour 1\xC3\xBC.csv");
     EXPECT_FALSE(std::filesystem::exists(raceSetup.raceFileName)) << "before its first stage";
 
-    player.click("Back");
-    player.click("Single stage");
-    player.click("OK");
-    EXPECT_EQ(gameState, STATE_COURSE_SELECT);
+    player.click({CONTROL_COURSE_BACK, CONTROL_SINGLE_STAGE, CONTROL_TEAM_OK});
     EXPECT_EQ(raceSetup.raceFileName, "");
     EXPECT_EQ(raceSetup.standingsFileName, "standings.csv");
 }
 
-TEST_F(RaceListTest, ShiftAndTabGoBackThroughTheFields)
+TEST_F(RaceListTest, TheFieldsOfTheTeamSetupAreGoneThroughBothWays)
 {
-    player.click("Start");
-    player.held = GLUT_ACTIVE_SHIFT;
-    player.key(TAB);
-    EXPECT_EQ(teamSetup.teamActiveField, 4);
-    player.key(TAB);
-    EXPECT_EQ(teamSetup.teamActiveField, 3);
-    player.held = 0;
-    player.key(TAB);
-    player.key(TAB);
-    EXPECT_EQ(teamSetup.teamActiveField, 0);
+    player.click(CONTROL_START);
+    for (const auto& [key, held, field] : {std::tuple{'\t', GLUT_ACTIVE_SHIFT, 4},
+                                           {'\t', GLUT_ACTIVE_SHIFT, 3},
+                                           {'\t', 0, 4},
+                                           {'\r', 0, 0}}) {
+        player.held = held;
+        player.key(key);
+        EXPECT_EQ(teamSetup.teamActiveField, field);
+    }
+    player.click(raceNameBox());
+    player.click(CONTROL_SINGLE_STAGE);
+    EXPECT_EQ(teamSetup.teamActiveField, 3) << "the race has no name any more";
 }
 
 // The cursor stood behind a longer default name when the language was changed.
 TEST_F(RaceListTest, TheCursorStaysInAShorterName)
 {
-    player.click("Start");
+    player.click(CONTROL_START);
     teamSetup.teamActiveField = 1;
     player.special(GLUT_KEY_END);
     ASSERT_EQ(teamSetup.teamCursor, 11);
-    player.click("Back");
+    player.click(CONTROL_TEAM_BACK);
     settings.language = LANGUAGE_FRENCH;
     loadTexts();
-    player.click("Start");
+    player.click(CONTROL_START);
     EXPECT_EQ(teamSetup.teamCursor, 8);
-    type("!");
-    type("-");
+    player.type("!-");
     EXPECT_EQ(raceSetup.teamName[1], "Pays-Bas-");
-    settings.language = LANGUAGE_ENGLISH;
-    loadTexts();
 }

@@ -9,66 +9,60 @@ struct Edited {
     std::string text;
     int cursor = 0;
     TextField field() { return {text, cursor, 12}; }
-};
 
-void type(Edited& edited, const char* letters)
-{
-    for (; *letters; ++letters)
-        typeCharacter(edited.field(), *letters);
-}
+    void type(const char* letters)
+    {
+        for (; *letters; ++letters)
+            typeCharacter(field(), *letters);
+    }
+
+    void expect(const char* expected, int at) const
+    {
+        EXPECT_EQ(text, expected);
+        EXPECT_EQ(cursor, at) << text;
+    }
+};
 
 } // namespace
 
 TEST(TextFields, TakeCharactersAtTheCursorAndLoseTheTwelfth)
 {
     Edited name;
-    type(name, "Rockets");
-    EXPECT_EQ(name.text, "Rockets");
-    EXPECT_EQ(name.cursor, 7);
+    name.type("Rockets");
+    name.expect("Rockets", 7);
     cursorToStart(name.field());
-    type(name, "The ");
-    EXPECT_EQ(name.text, "The Rockets");
-    type(name, "!?");
-    EXPECT_EQ(name.text, "The !?Rocket");
-    EXPECT_EQ(name.cursor, 6);
+    name.type("The !?");
+    name.expect("The !?Rocket", 6);
     cursorToEnd(name.field());
-    EXPECT_EQ(name.cursor, 11);
-    type(name, "xyz"); // on the last place each overwrites the one before
-    EXPECT_EQ(name.text, "The !?Rockez");
-    EXPECT_EQ(name.cursor, 11);
+    name.expect("The !?Rocket", 11);
+    name.type("xyz"); // on the last place each overwrites the one before
+    name.expect("The !?Rockez", 11);
 }
 
 TEST(TextFields, EraseOnBothSidesAndStopAtTheEnds)
 {
     Edited name{"abc", 0};
     eraseBefore(name.field());
-    EXPECT_EQ(name.text, "abc");
     eraseAt(name.field());
-    EXPECT_EQ(name.text, "bc");
+    name.expect("bc", 0);
     moveTextCursor(name.field(), 1);
     eraseBefore(name.field());
-    EXPECT_EQ(name.text, "c");
-    EXPECT_EQ(name.cursor, 0);
     moveTextCursor(name.field(), 5);
-    EXPECT_EQ(name.cursor, 1);
     eraseAt(name.field());
-    EXPECT_EQ(name.text, "c");
+    name.expect("c", 1);
     eraseBefore(name.field());
-    EXPECT_EQ(name.text, "");
     moveTextCursor(name.field(), -1);
-    EXPECT_EQ(name.cursor, 0);
+    name.expect("", 0);
 }
 
 TEST(TextFields, PutTheCursorWhereTheyAreClicked)
 {
     Edited name{"Belgium", 3};
-    cursorFromClick(name.field(), 100 + 2 * 8 + 3, 100, 97);
-    EXPECT_EQ(name.cursor, 2);
-    cursorFromClick(name.field(), 100 + 7 * 8, 100, 97);
-    EXPECT_EQ(name.cursor, 7);
-    cursorFromClick(name.field(), 100 + 9 * 8, 100, 97);
-    EXPECT_EQ(name.cursor, 0);
+    for (const auto& [x, cursor] : {std::pair{2 * 8 + 3, 2}, {7 * 8, 7}, {9 * 8, 0}}) {
+        cursorFromClick(name.field(), 100 + x, 100, 97);
+        name.expect("Belgium", cursor);
+    }
     name.text = "twelve chars";
     cursorFromClick(name.field(), 100 + 97, 100, 97);
-    EXPECT_EQ(name.cursor, 11);
+    name.expect("twelve chars", 11);
 }

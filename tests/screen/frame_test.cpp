@@ -10,7 +10,7 @@
 #include "screen/support/gl_window.h"
 #include "screen/support/player.h"
 #include "support/fake_host.h"
-#include "screen/support/old_places.h"
+#include "ui/cameras.h"
 #include "ui/frame.h"
 #include "ui/layout.h"
 #include "ui/models.h"
@@ -19,16 +19,15 @@
 
 #include <cmath>
 #include <cstdlib>
-#include <functional>
 
 namespace
 {
 
 // A race of four computer teams that waits for the first "Next".
-void startRaceOn(const char* text, unsigned seed = 7)
+void startRaceOn(const char* text)
 {
     startProgram(1280, 1024);
-    std::srand(seed);
+    std::srand(7);
     courseText = text;
     startRace();
 }
@@ -36,9 +35,8 @@ void startRaceOn(const char* text, unsigned seed = 7)
 // Up to the first computer rider in motion.
 void goToFirstMove()
 {
-    Player player;
     while (gameState == STATE_ORDER_RESULT)
-        player.click("Next");
+        Player().click(CONTROL_NEXT);
     ASSERT_EQ(gameState, STATE_ANIMATE);
 }
 
@@ -51,10 +49,8 @@ Pixel boardPixel(float x, float y)
     return {boardPicture.bytes[i], boardPicture.bytes[i + 1], boardPicture.bytes[i + 2]};
 }
 
-using PointMap = std::function<BoardPoint(BoardPoint)>;
-
-// How far the screen is from the picture, on average, if the picture lay there as the map tells.
-double distanceFromPicture(const Image& image, const PointMap& map)
+// How far the screen is from the picture, on average, if the picture lay there, turned over or not.
+double distanceFromPicture(const Image& image, bool mirrored, bool upsideDown)
 {
     double sum = 0.0;
     int count = 0;
@@ -66,9 +62,9 @@ double distanceFromPicture(const Image& image, const PointMap& map)
                 at.x > layout.viewX + static_cast<int>(layout.boardViewX + layout.boardViewW) - 2 ||
                 at.y > static_cast<int>(layout.hudY) - 10)
                 continue;
-            const BoardPoint point = map({x, y});
             const Pixel seen = image.at(at.x, at.y);
-            const Pixel painted = boardPixel(point.x, point.y);
+            const Pixel painted = boardPixel(mirrored ? BOARD_WIDTH - 1.0f - x : x,
+                                             upsideDown ? BOARD_HEIGHT - 1.0f - y : y);
             sum += std::abs(seen.red - painted.red) + std::abs(seen.green - painted.green) +
                    std::abs(seen.blue - painted.blue);
             ++count;
@@ -80,15 +76,9 @@ double distanceFromPicture(const Image& image, const PointMap& map)
 void expectPictureInPlace()
 {
     const Image image = screenshot();
-    const double here = distanceFromPicture(image, [](BoardPoint p) { return p; });
-    const double mirrored = distanceFromPicture(image, [](BoardPoint p) {
-        return BoardPoint{BOARD_WIDTH - 1.0f - p.x, p.y};
-    });
-    const double upsideDown = distanceFromPicture(image, [](BoardPoint p) {
-        return BoardPoint{p.x, BOARD_HEIGHT - 1.0f - p.y};
-    });
-    EXPECT_LT(here, 0.6 * mirrored) << "camera " << view.cameraIndex;
-    EXPECT_LT(here, 0.6 * upsideDown) << "camera " << view.cameraIndex;
+    const double here = distanceFromPicture(image, false, false);
+    EXPECT_LT(here, 0.6 * distanceFromPicture(image, true, false)) << view.cameraIndex;
+    EXPECT_LT(here, 0.6 * distanceFromPicture(image, false, true)) << view.cameraIndex;
 }
 
 } // namespace
@@ -97,67 +87,42 @@ TEST(Frame, TheBoardLiesRightWayRoundUnderEveryCamera)
 {
     startRaceOn("01S23S4S5F12");
     Player player;
-    for (int camera = 0; camera < 2; ++camera, player.click("Camera"))
+    for (int camera = 0; camera < 2; ++camera, player.click(CONTROL_CAMERA))
         expectPictureInPlace();
-    player.click("2D/3D");
-    for (int camera = 0; camera < 8; ++camera, player.click("Camera"))
+    player.click(CONTROL_VIEW);
+    for (int camera = 0; camera < 8; ++camera, player.click(CONTROL_CAMERA))
         expectPictureInPlace();
 }
 
-// Whatever a frame leaves behind, the next one isn't touched by it.
+// Whatever a frame leaves behind, the next one isn't touched by it. A new race begins in flat view,
+// also when the last one was left in the other.
 TEST(Frame, LooksTheSameWheneverItIsPainted)
 {
     startRaceOn("64S5F12");
+    const Image first = screenshot();
     goToFirstMove();
     redrawNow();
     const Image flat = screenshot();
     Player player;
-    player.click("2D/3D");
+    player.click(CONTROL_VIEW);
     const Image perspective = screenshot();
     redrawNow();
     EXPECT_TRUE(screenshot() == perspective);
-    player.click("Quit");
-    player.click("No");
+    player.click({CONTROL_QUIT, CONTROL_QUIT_NO});
     EXPECT_TRUE(screenshot() == perspective);
-    player.click("2D/3D");
+    player.click(CONTROL_VIEW);
     EXPECT_TRUE(screenshot() == flat);
-}
-
-// A new race begins in flat view, also when the last one was left in the other.
-TEST(Frame, ANewRaceIsFlatAgain)
-{
-    startRaceOn("64S5F12");
-    const Image first = screenshot();
-    Player player;
-    player.click("2D/3D");
+    player.click(CONTROL_VIEW);
     std::srand(7);
     startRace();
     EXPECT_EQ(view.viewMode, VIEW_FLAT);
     EXPECT_TRUE(screenshot() == first);
-}
 
-TEST(Frame, WithoutAWindowNothingIsPainted)
-{
-    startProgram(640, 512);
-    const Image menu = screenshot();
-    windowOpen = false;
+    windowOpen = false; // and without a window nothing is painted
     gameState = STATE_TEAM_SETUP;
     redrawNow();
-    EXPECT_TRUE(screenshot() == menu);
+    EXPECT_TRUE(screenshot() == first);
     windowOpen = true;
-}
-
-TEST(Frame, ButtonsAreBlackOnGreyAndGreyWhenTheyDoNothing)
-{
-    startRaceOn("64S5F12");
-    const Image order = screenshot();
-    EXPECT_GT(countPixels(order, throwButton(), pixelOf(BLACK)), 20);
-    EXPECT_EQ(countPixels(order, dopingButton(), pixelOf(BLACK)), 0);
-    EXPECT_GT(countPixels(order, dopingButton(), pixelOf(disabledGrey)), 20);
-    EXPECT_GT(countPixels(order, dopingButton(), pixelOf(buttonGrey)), 200);
-
-    goToFirstMove();
-    EXPECT_EQ(countPixels(screenshot(), throwButton(), pixelOf(BLACK)), 0);
 }
 
 // Team 0's own pawn is looked for where its rider stands; the number stands below the middle.
@@ -167,16 +132,13 @@ TEST(Frame, TheRiderOnTurnIsSeenAtEveryTick)
     goToFirstMove();
     const int rider = race.currentRider;
     const Pixel colour = pixelOf(teamColour[riderTeam(rider)]);
-    BoardPoint last = {race.riders[rider].x, race.riders[rider].y};
+    const Rider& now = race.riders[rider];
+    BoardPoint last = {now.x, now.y};
     int moved = 0;
-    while (race.currentRider == rider && gameState == STATE_ANIMATE && runTick()) {
-        if (race.currentRider != rider)
-            break;
-        const Rider& now = race.riders[rider];
+    while (gameState == STATE_ANIMATE && runTick() && race.currentRider == rider) {
         const ScreenPoint at = seenAt(now.x, now.y - 9.0f);
         EXPECT_EQ(screenshot().at(at.x, at.y), colour) << "tick " << moved;
-        const float length = std::hypot(now.x - last.x, now.y - last.y);
-        EXPECT_LT(length, 15.0f) << "tick " << moved;
+        EXPECT_LT(std::hypot(now.x - last.x, now.y - last.y), 15.0f) << "tick " << moved;
         last = {now.x, now.y};
         ++moved;
     }
@@ -208,31 +170,19 @@ TEST(Frame, TheCursorIsWhiteOnAFreeSquareAndRedOnATakenOne)
     }
 }
 
-TEST(Frame, CardsAreBrightOnlyForTheRiderWhoMayPlayThem)
+TEST(Frame, AFigureShowsItsSideToEveryCameraAndIsLeftAloneInTheFlatView)
 {
-    startRaceOn("01S23S4S5F12");
-    goToFirstMove();
-    Rider& rider = race.riders[4];
-    rider.isHuman = 1;
-    race.currentRider = 4;
-    race.roundNumber = 2;
-    view.shownTeam = 1;
-    gameState = STATE_TURN;
-    redrawNow();
-
-    // The blue of a card of value 6, at the middle of its lower edge.
-    const auto blueOf = [](int slot) {
-        const Rect place = cardPlace(slot);
-        return screenshot().at(place.x + place.w * 0.5f, place.y + place.h - 4.0f).blue;
-    };
-    EXPECT_EQ(blueOf(0), 255);
-    EXPECT_EQ(blueOf(4), 128) << "a team-mate's card";
-    EXPECT_EQ(blueOf(10), 255) << "the team's card";
-    race.playedCards = {10, 1};
-    redrawNow();
-    EXPECT_EQ(blueOf(0), 128) << "both places are taken";
-    race.playedCards = {-1, -1};
-    race.roundNumber = 1;
-    redrawNow();
-    EXPECT_EQ(blueOf(0), 128) << "no cards in the first round";
+    const double halfPi = std::acos(0.0);
+    for (int i = 0; i < PERSPECTIVE_CAMERA_COUNT; ++i) {
+        view.cameraIndex = FIRST_PERSPECTIVE_CAMERA + i;
+        const double boardY = -cameraEyes[i].y; // the view turns the board's y round
+        const double towards = std::atan2(boardY - 300.0, cameraEyes[i].x - 700.0);
+        for (const double along : {0.0, 2.0 * halfPi, 0.4})
+            EXPECT_FALSE(figureTurned(700.0f, 300.0f, towards + along)) << i;
+        for (const double across : {0.45, halfPi, -halfPi})
+            EXPECT_TRUE(figureTurned(700.0f, 300.0f, towards + across)) << i;
+    }
+    view.cameraIndex = 1;
+    EXPECT_FALSE(figureTurned(977.0f, 576.0f, 0.0) || figureTurned(977.0f, 576.0f, halfPi));
+    view = {};
 }

@@ -8,10 +8,11 @@
 #include "screen/support/gl_window.h"
 #include "screen/support/player.h"
 #include "support/fake_host.h"
+#include "support/own_folder.h"
+#include "support/races.h"
 #include "support/scripted_rand.h"
-#include "screen/support/old_places.h"
 #include "ui/layout.h"
-#include "ui/texts.h"
+#include "ui/places.h"
 
 #include <GL/freeglut.h>
 #include <gtest/gtest.h>
@@ -20,9 +21,6 @@
 
 namespace
 {
-
-constexpr char TAB = 9;
-constexpr char ENTER = 13;
 
 void startRaceOn(const char* text, bool ofPersons = false)
 {
@@ -36,100 +34,46 @@ void startRaceOn(const char* text, bool ofPersons = false)
 
 void goToFirstMove()
 {
-    Player player;
+    startRaceOn("01S23S4S5F12");
     while (gameState == STATE_ORDER_RESULT)
-        player.click("Next");
+        Player().click(CONTROL_NEXT);
     ASSERT_EQ(gameState, STATE_ANIMATE);
 }
 
 // A person's rider in round 2, alone on the road, on a flat square.
 void startPersonsTurn(int rider)
 {
-    startRaceOn("01S23S4S5F12");
-    for (Rider& other : race.riders) {
-        other.row = course.finishRow + 1;
-        other.lane = 0;
-        other.finished = other.hasMoved = 1;
-    }
-    race.riders[rider].finished = race.riders[rider].hasMoved = 0;
-    gameState = STATE_TURN;
-    race.roundNumber = 2;
-    race.currentRider = rider;
-    race.moveBudget = -1;
-    race.riders[rider].isHuman = 1;
-    race.riders[rider].row = 8;
-    race.riders[rider].lane = 3;
-    race.playedCards = race.dice = race.handInCards = {-1, -1};
-    view.shownTeam = riderTeam(rider);
+    startProgram(640, 512);
+    setUpPersonsRace("01S23S4S5F12", {{rider, 8, 3}});
+    beginPersonsTurn(rider);
 }
+
+constexpr Table<int, 2> NO_CARDS = {-1, -1};
 
 } // namespace
 
-TEST(Mouse, FromTheMenuToTheCoursesAndBack)
+// "Exit" comes up where "Back" was. One who holds the button long clicks no more slowly: it is the
+// presses that are compared.
+TEST(Mouse, TheSecondHalfOfADoubleClickIsDroppedWhereAnotherControlHasComeUp)
 {
     startProgram(640, 512);
     Player player;
-    player.click("Start");
-    EXPECT_EQ(gameState, STATE_TEAM_SETUP);
-    player.click("Back");
-    EXPECT_EQ(gameState, STATE_MAIN_MENU);
-    player.click("Start");
-    player.click("Single stage");
-    player.click("OK");
-    EXPECT_EQ(gameState, STATE_COURSE_SELECT);
-    player.click(dialogBox()); // between the pictures
-    EXPECT_EQ(gameState, STATE_COURSE_SELECT);
-    player.click("Back");
-    EXPECT_EQ(gameState, STATE_TEAM_SETUP);
-}
-
-TEST(Mouse, ATeamWithoutANameIsTold)
-{
-    startProgram(1280, 1024);
-    raceSetup.teamName[2].clear();
-    Player player;
-    player.click("Start");
-    player.click("Single stage");
-    player.click("OK");
-    ASSERT_EQ(gameState, STATE_SETUP_MESSAGE);
-    const Rect box = dialogBox();
-    EXPECT_GT(countPixels(screenshot(), {box.x, box.y + box.h * 0.4f, box.w, box.h * 0.2f},
-                          pixelOf(BLACK)),
-              100);
-    player.click("OK");
-    EXPECT_EQ(gameState, STATE_TEAM_SETUP);
-}
-
-// "Exit" comes up where "Back" was, and "Back" where "OK" was.
-TEST(Mouse, ADoubleClickDoesNothingTwice)
-{
-    startProgram(640, 512);
-    Player player;
-    player.click("Start");
-    player.doubleClick(cornerButton());
-    EXPECT_EQ(gameState, STATE_MAIN_MENU);
-    EXPECT_EQ(fakeHost.quits, 0);
-    player.doubleClick(menuManualButton());
-    player.doubleClick(manualOkButton());
-    EXPECT_EQ(gameState, STATE_MAIN_MENU);
-    EXPECT_EQ(fakeHost.quits, 0);
-    player.click("Exit");
-    EXPECT_EQ(fakeHost.quits, 1);
-}
-
-// One who holds the button long clicks no more slowly: it is the presses that are compared.
-TEST(Mouse, ASecondPressWithinTheTimeOfADoubleClickIsDroppedHoweverLongTheFirstIsHeld)
-{
-    startProgram(640, 512);
-    Player player;
-    for (const int pace : {120, 190, 210}) {
+    for (const int pace : {90, 120, 190, 210}) {
         player.pace = 1000;
-        player.click("Start");
+        player.click(CONTROL_START);
         player.pace = pace;
-        player.click(cornerButton());
-        player.click(cornerButton());
+        player.press(placeOf(CONTROL_TEAM_BACK));
+        player.hold(150);
+        player.release(placeOf(CONTROL_TEAM_BACK));
+        player.hold(-150);
+        player.click(CONTROL_TEAM_BACK);
         EXPECT_EQ(fakeHost.quits, pace > 200) << pace;
     }
+    player.pace = 1000;
+    player.click(CONTROL_MANUAL);
+    player.pace = 90;
+    player.click({CONTROL_MANUAL_OK, CONTROL_START});
+    EXPECT_EQ(gameState, STATE_TEAM_SETUP) << "a quick click elsewhere is another one";
 }
 
 TEST(Mouse, ThrowsForTheOrderAreAsQuickAsTheHand)
@@ -137,9 +81,8 @@ TEST(Mouse, ThrowsForTheOrderAreAsQuickAsTheHand)
     startRaceOn("64S5F12", true);
     Player player;
     player.pace = 150;
-    const Rect button = throwButton();
     for (int clicks = 1; clicks <= 7; ++clicks) {
-        player.click(button);
+        player.click(CONTROL_NEXT);
         EXPECT_EQ(gameState, clicks % 2 ? STATE_ORDER_RESULT : STATE_ORDER_THROW) << clicks;
     }
 }
@@ -148,117 +91,110 @@ TEST(Mouse, ADoubleClickThatFinishesADesignStartsNoRace)
 {
     startProgram(640, 512);
     Player player;
-    for (const char* label : {"Start", "Single stage", "OK"})
-        player.click(label);
+    player.click({CONTROL_START, CONTROL_SINGLE_STAGE, CONTROL_TEAM_OK});
     view.viewMode = VIEW_PERSPECTIVE;
-    player.click(newCourseButton());
+    player.click(CONTROL_CREATE_COURSE);
     EXPECT_EQ(view.viewMode, VIEW_FLAT);
-    player.doubleClick(addSectionButton());
+    player.doubleClick(CONTROL_ADD_SECTION);
     EXPECT_EQ(courseText, "01") << "in the middle of a design both count";
     toggleFinish();
-    player.doubleClick(addSectionButton());
+    player.doubleClick(CONTROL_ADD_SECTION);
     EXPECT_EQ(courseText, "012F");
     EXPECT_EQ(gameState, STATE_COURSE_DESIGN);
-    player.click(addSectionButton());
+    player.click(sectionRadio(0));
+    EXPECT_EQ(courseText, "012F") << "nothing is left to choose";
+    player.click(CONTROL_DESIGN_OK);
     EXPECT_EQ(gameState, STATE_ORDER_RESULT);
 }
 
-// Before the race throws act on the release, in it on the press.
-TEST(Mouse, NextActsOnTheReleaseAndThrowOnThePress)
+TEST(Mouse, ADesignIsSavedOnceByADoubleClickAndAFailureIsForgottenByTheNextClick)
 {
-    startRaceOn("64S5F12");
+    const OwnFolder here;
+    startProgram(640, 512);
+    courseText = "012F";
+    gameState = STATE_COURSE_DESIGN;
     Player player;
-    const Rect at = throwButton();
-    player.press(at.x + 5.0f, at.y + 5.0f);
-    EXPECT_EQ(race.currentRider, 0);
-    player.release(at.x + 5.0f, at.y + 5.0f);
-    EXPECT_EQ(race.currentRider, 4);
-
-    startPersonsTurn(0);
-    player.press(at.x + 5.0f, at.y + 5.0f);
-    EXPECT_NE(race.moveBudget, -1);
+    player.doubleClick(CONTROL_SAVE_COURSE);
+    EXPECT_EQ(std::filesystem::file_size("courses"), 48u);
+    std::filesystem::remove("courses");
+    std::filesystem::create_directory("courses");
+    player.click(CONTROL_SAVE_COURSE);
+    EXPECT_TRUE(courseScreens.saveFailed);
+    player.click(dialogBox());
+    EXPECT_FALSE(courseScreens.saveFailed);
 }
 
-TEST(Mouse, ARightClickDoesNothingButChangeTheCamera)
+TEST(Mouse, CamerasAndViewsTakeTurns)
 {
     startRaceOn("64S5F12");
     Player player;
-    player.rightClick(quitButton());
-    player.rightClick(throwButton());
-    player.rightClick(viewToggle());
-    EXPECT_EQ(gameState, STATE_ORDER_RESULT);
-    EXPECT_EQ(view.viewMode, VIEW_FLAT);
-    player.click("2D/3D");
-    EXPECT_EQ(view.cameraIndex, 3);
-    player.rightClick(cameraButton());
-    EXPECT_EQ(view.cameraIndex, 10);
-    player.click("Camera");
-    player.click("Camera");
-    EXPECT_EQ(view.cameraIndex, 4);
-    player.click("2D/3D");
-    EXPECT_EQ(view.cameraIndex, 1);
-    player.rightClick(cameraButton());
-    EXPECT_EQ(view.cameraIndex, 2);
-    player.click("2D/3D");
-    EXPECT_EQ(view.cameraIndex, 4);
+    for (const auto& [right, control, camera] : {std::tuple{false, CONTROL_VIEW, 3},
+                                                 {true, CONTROL_CAMERA, 10},
+                                                 {false, CONTROL_CAMERA, 3},
+                                                 {false, CONTROL_CAMERA, 4},
+                                                 {false, CONTROL_VIEW, 1},
+                                                 {true, CONTROL_CAMERA, 2},
+                                                 {false, CONTROL_CAMERA, 1},
+                                                 {false, CONTROL_VIEW, 4}}) {
+        right ? player.rightClick(control) : player.click(control);
+        EXPECT_EQ(view.cameraIndex, camera);
+    }
 }
 
 TEST(Mouse, TheQuestionFreezesTheMoveAndNoGoesOnWithIt)
 {
-    startRaceOn("01S23S4S5F12");
     goToFirstMove();
     runTick();
     runTick();
     const int steps = race.stepsTaken;
     Player player;
-    player.click("Quit");
+    player.click(CONTROL_QUIT);
     ASSERT_EQ(gameState, STATE_CONFIRM_QUIT);
     const float x = race.riders[race.currentRider].x;
-    while (runTick()) {
-    }
+    runTimer();
     EXPECT_EQ(race.riders[race.currentRider].x, x);
-    player.click("Camera");
-    EXPECT_EQ(view.cameraIndex, 1) << "no camera under the question";
-    player.click("No");
+    player.click(CONTROL_QUIT_NO);
     EXPECT_EQ(gameState, STATE_ANIMATE);
     EXPECT_EQ(race.stepsTaken, steps);
     EXPECT_TRUE(runTick());
-    player.click("Quit");
-    player.click("Yes");
-    EXPECT_EQ(gameState, STATE_MAIN_MENU);
 }
 
-TEST(Mouse, OkTakesARiderWhoIsStuckOffTheBoard)
+TEST(Mouse, OkTakesARiderWhoIsStuckOffTheBoardOnce)
 {
-    startRaceOn("01S23S4S5F12");
-    goToFirstMove();
-    const int rider = race.currentRider;
+    startProgram(640, 512);
+    setUpPersonsRace("01S23S4S5F12", {{0, 8, 3}, {4, 6, 3}, {8, 4, 3}});
+    beginPersonsTurn(0);
     gameState = STATE_NO_MOVE;
     Player player;
-    player.click("OK");
-    EXPECT_EQ(race.riders[rider].offBoard, 1);
-    EXPECT_NE(race.currentRider, rider);
-    EXPECT_EQ(gameState, STATE_ANIMATE);
+    player.click(CONTROL_NO_MOVE_OK);
+    EXPECT_EQ(race.riders[0].offBoard, 1);
+    EXPECT_EQ(race.currentRider, 4);
+    EXPECT_EQ(gameState, STATE_TURN);
 }
 
+// A click opens the question, in the course of which the box slides under the pointer's place.
 TEST(Mouse, ADialogSlidesAlongTheEdgesAndStaysWhole)
 {
     startRaceOn("64S5F12");
     Player player;
-    player.click("Quit");
+    player.click(CONTROL_QUIT);
     const Rect bar = dialogTitleBar();
     player.press(bar.x + 20.0f, bar.y + 2.0f);
     player.dragTo(bar.x + 30.0f, bar.y - 18.0f);
     EXPECT_NEAR(dialogBox().x, bar.x + 10.0f, 1.0f);
     EXPECT_NEAR(dialogTitleBar().y, bar.y - 20.0f, 1.0f);
     const float kept = dialogTitleBar().y;
-    player.dragTo(bar.x + 40.0f, -50.0f);
-    EXPECT_NEAR(dialogBox().x, bar.x + 20.0f, 1.0f);
-    EXPECT_EQ(dialogTitleBar().y, kept) << "not beyond the top";
+    for (const float y : {-50.0f, bar.h * -0.5f}) {
+        player.dragTo(bar.x + 40.0f, y);
+        EXPECT_NEAR(dialogBox().x, bar.x + 20.0f, 1.0f);
+        EXPECT_EQ(dialogTitleBar().y, kept) << "not beyond the top";
+    }
+    player.dragTo(-50.0f, bar.y);
+    EXPECT_NEAR(dialogBox().x, bar.x + 20.0f, 1.0f) << "nor beyond the side";
     player.release(0.0f, 0.0f);
-    player.dragTo(bar.x, bar.y);
-    EXPECT_EQ(dialogTitleBar().y, kept) << "let go";
-    player.click("No");
+    player.dragTo(bar.x, bar.y + 30.0f);
+    EXPECT_NEAR(dialogTitleBar().y, bar.y - 2.0f, 1.0f) << "let go";
+    player.click(CONTROL_QUIT_NO);
     EXPECT_EQ(gameState, STATE_ORDER_RESULT) << "the buttons went along";
 }
 
@@ -268,31 +204,33 @@ TEST(Mouse, ADialogIsNotAnsweredByTheClickThatOpensIt)
     startPersonsTurn(0);
     raceSetup.eventCardsOn = true;
     const Rect box = dialogBox();
-    const Rect ok = dialogOkButton();
-    placeDialog(throwButton().x + box.x - ok.x, throwButton().y + box.y - ok.y);
+    const Rect ok = placeOf(CONTROL_EVENT_OK);
+    const Rect button = placeOf(CONTROL_THROW);
+    placeDialog(button.x + box.x - ok.x, button.y + box.y - ok.y);
     const ScriptedRand dice{raceThrow(3, 4)};
     Player player;
-    player.click("Throw");
+    player.click(CONTROL_THROW);
     EXPECT_EQ(gameState, STATE_EVENT_CARD);
-    player.click(throwButton());
+    player.click(CONTROL_THROW);
     EXPECT_NE(gameState, STATE_EVENT_CARD);
 }
 
-TEST(Mouse, AnotherTeamsCardsAreOnlyLookedAt)
+TEST(Mouse, AnotherTeamsCardsAreOnlyLookedAtAndNoneCountsInTheFirstRound)
 {
     startPersonsTurn(4);
     Player player;
-    player.click(teamTab(0));
-    EXPECT_EQ(view.shownTeam, 0);
+    player.click(CONTROL_TAB_1);
     player.click(cardPlace(0));
-    EXPECT_EQ(race.playedCards[0], -1);
-    player.click(teamTab(1));
+    EXPECT_EQ(race.playedCards, NO_CARDS);
+    player.click(CONTROL_TAB_2);
+    race.roundNumber = 1;
+    player.click(cardPlace(0));
+    EXPECT_EQ(race.playedCards, NO_CARDS);
+    race.roundNumber = 2;
     player.click(cardPlace(0));
     EXPECT_EQ(race.playedCards[0], 0);
-    player.click("Breakaway");
-    EXPECT_EQ(race.breakaway, 1);
     player.click(dicePlace(0));
-    EXPECT_EQ(race.playedCards[0], -1);
+    EXPECT_EQ(race.playedCards, NO_CARDS);
 }
 
 TEST(Mouse, ACardReachesToItsEdges)
@@ -307,72 +245,35 @@ TEST(Mouse, ACardReachesToItsEdges)
     EXPECT_EQ(race.playedCards[1], -1) << "a gap between cards";
 }
 
-TEST(Keyboard, LettersFollowTheLanguage)
-{
-    struct Case {
-        int language;
-        char start, next, quit, no;
-    };
-    for (const Case& c :
-         {Case{LANGUAGE_GERMAN, 's', 'n', 'u', 'n'}, Case{LANGUAGE_ENGLISH, 's', 'n', 'q', 'n'},
-          Case{LANGUAGE_FRENCH, 'c', 'u', 'q', 'n'}, Case{LANGUAGE_DUTCH, 's', 'v', 't', 'n'}}) {
-        startProgram(640, 512);
-        settings.language = c.language;
-        loadTexts();
-        Player player;
-        player.key('x');
-        EXPECT_EQ(gameState, STATE_MAIN_MENU);
-        player.key(c.start);
-        EXPECT_EQ(gameState, STATE_TEAM_SETUP) << c.language;
-
-        std::srand(11);
-        courseText = "64S5F12";
-        startRace();
-        player.key(c.next);
-        EXPECT_EQ(race.currentRider, 4) << c.language;
-        player.key(c.quit);
-        EXPECT_EQ(gameState, STATE_CONFIRM_QUIT) << c.language;
-        player.key(c.no);
-        EXPECT_EQ(gameState, STATE_ORDER_RESULT) << c.language;
-    }
-    startProgram(640, 512);
-}
-
-TEST(Keyboard, ControlAndAltKeysDoNothingAndLocksDoNotMatter)
+TEST(Keyboard, AKeyCountsAsItWasPressedWhateverIsLetGoFirst)
 {
     constexpr int someLock = 1 << 6;
     startProgram(640, 512);
     Player player;
-    for (const int modifier : {GLUT_ACTIVE_CTRL, GLUT_ACTIVE_ALT, GLUT_ACTIVE_CTRL | someLock}) {
-        player.held = modifier;
-        player.key('s');
-        EXPECT_EQ(gameState, STATE_MAIN_MENU);
-    }
+    player.held = GLUT_ACTIVE_CTRL | someLock;
+    player.press('s' - 'a' + 1); // as a letter comes with Control
+    player.held = 0;
+    player.key('s');
+    EXPECT_EQ(gameState, STATE_MAIN_MENU);
     player.held = GLUT_ACTIVE_SHIFT | someLock;
     player.key('S');
     EXPECT_EQ(gameState, STATE_TEAM_SETUP);
+    player.press('\xC4');
+    player.held = 0;
+    player.key('\xE4');
+    EXPECT_EQ(raceSetup.teamName[0].substr(0, 1), "\xC4");
 }
 
-TEST(Keyboard, TabGoesRoundTheTeams)
+TEST(Keyboard, TabGoesRoundTheTeamsWhereTheirTabsAct)
 {
     startRaceOn("64S5F12");
     Player player;
-    player.key(TAB);
-    EXPECT_EQ(view.shownTeam, 1);
-    player.held = GLUT_ACTIVE_SHIFT;
-    player.key(TAB);
-    player.key(TAB);
-    EXPECT_EQ(view.shownTeam, 3);
-    player.held = 0;
-    player.key(TAB);
-    EXPECT_EQ(view.shownTeam, 0);
-
-    gameState = STATE_FINAL_SCORECARD;
-    player.key(TAB);
-    EXPECT_EQ(view.shownTeam, 0);
-    gameState = STATE_MAIN_MENU;
-    player.key(TAB);
-    EXPECT_EQ(view.shownTeam, 0);
+    for (const auto& [held, team] :
+         {std::pair{0, 1}, {GLUT_ACTIVE_SHIFT, 0}, {GLUT_ACTIVE_SHIFT, 3}, {0, 0}}) {
+        player.held = held;
+        player.key('\t');
+        EXPECT_EQ(view.shownTeam, team);
+    }
 }
 
 TEST(Keyboard, FunctionKeysLayTheCardsOfTheRiderOnTurn)
@@ -380,22 +281,22 @@ TEST(Keyboard, FunctionKeysLayTheCardsOfTheRiderOnTurn)
     startPersonsTurn(5); // owns slots 4 and 5
     view.shownTeam = 3;
     Player player;
-    player.special(GLUT_KEY_F3);
-    EXPECT_EQ(race.playedCards, (Table<int, 2>{-1, -1})) << "the slot is a team-mate's";
-    player.special(GLUT_KEY_F9);
-    EXPECT_EQ(race.playedCards, (Table<int, 2>{-1, -1})) << "nothing won yet";
+    player.special({GLUT_KEY_F3, GLUT_KEY_F9});
+    EXPECT_EQ(race.playedCards, NO_CARDS) << "the slot is a team-mate's, and nothing won yet";
     EXPECT_EQ(view.shownTeam, 3);
     player.special(GLUT_KEY_F2);
     EXPECT_EQ(race.playedCards[0], 5);
     EXPECT_EQ(view.shownTeam, 1) << "his team comes into view";
     player.special(GLUT_KEY_F5);
     EXPECT_EQ(race.playedCards[1], 10);
+    view.shownTeam = 3;
     player.special(GLUT_KEY_F5);
     EXPECT_EQ(race.playedCards[1], -1);
+    EXPECT_EQ(view.shownTeam, 1);
 
     startPersonsTurn(7); // the fourth rider's two cards are the last before the team's
     player.special(GLUT_KEY_F3);
-    EXPECT_EQ(race.playedCards[0], -1);
+    EXPECT_EQ(race.playedCards, NO_CARDS);
 
     startPersonsTurn(0);
     player.special(GLUT_KEY_F3);
@@ -404,25 +305,24 @@ TEST(Keyboard, FunctionKeysLayTheCardsOfTheRiderOnTurn)
     startPersonsTurn(0);
     race.roundNumber = 1;
     player.special(GLUT_KEY_F1);
-    EXPECT_EQ(race.playedCards[0], -1);
+    EXPECT_EQ(race.playedCards, NO_CARDS);
 }
 
 TEST(Keyboard, ArrowsSteerAndEnterEndsTheMove)
 {
     startPersonsTurn(0);
-    gameState = STATE_MOVE;
-    race.moveBudget = 3;
-    race.pathSquares[0] = {8.0f, 3.0f};
+    beginPersonsMove(0, 3);
     Player player;
-    player.special(GLUT_KEY_UP);
-    player.special(GLUT_KEY_RIGHT);
+    player.special({GLUT_KEY_UP, GLUT_KEY_RIGHT});
     EXPECT_EQ(race.stepsTaken, 2);
     EXPECT_EQ(race.riders[0].lane, 4);
-    player.special(GLUT_KEY_DOWN);
+    player.special(GLUT_KEY_LEFT);
+    EXPECT_EQ(race.riders[0].lane, 3);
+    player.special({GLUT_KEY_DOWN, GLUT_KEY_DOWN});
     player.key('u');
     EXPECT_EQ(race.riders[0].row, 8);
     player.special(GLUT_KEY_UP);
-    player.key(ENTER);
+    player.key('\r');
     EXPECT_GT(race.riders[0].row, 8);
     EXPECT_EQ(race.roundNumber, 3) << "alone on the road, so the round is over";
 }
@@ -430,25 +330,52 @@ TEST(Keyboard, ArrowsSteerAndEnterEndsTheMove)
 // The cursor goes where the arrow points, whichever way the start section lies.
 TEST(Keyboard, ArrowsMoveTheCursorOnThePicture)
 {
-    struct Case {
-        const char* text;
-        int leftRows, upLanes;
-    };
-    for (const Case& c : {Case{"01S23S4S5F12", 1, 1}, Case{"64S5F12", -1, -1}}) {
-        startRaceOn(c.text);
+    for (const auto& [text, forward] : {std::pair{"01S23S4S5F12", 1}, {"64S5F12", -1}}) {
+        startRaceOn(text);
         gameState = STATE_PLACE_HUMAN;
         race.riders[0].isHuman = 1;
         race.currentRider = 0;
         race.placingRow = 1;
-        race.placingLane = firstStartLane() + 1;
+        const int lane = race.placingLane = firstStartLane() + 1;
         Player player;
         player.special(GLUT_KEY_LEFT);
-        EXPECT_EQ(race.placingRow, 1 + c.leftRows) << c.text;
-        player.special(GLUT_KEY_RIGHT);
-        player.special(GLUT_KEY_UP);
-        EXPECT_EQ(race.placingLane, firstStartLane() + 1 + c.upLanes) << c.text;
+        EXPECT_EQ(race.placingRow, 1 + forward) << text;
+        player.special({GLUT_KEY_RIGHT, GLUT_KEY_UP});
+        EXPECT_EQ(race.placingLane, lane + forward) << text;
         player.special(GLUT_KEY_DOWN);
         EXPECT_EQ(race.placingRow, 1);
-        EXPECT_EQ(race.placingLane, firstStartLane() + 1);
+        EXPECT_EQ(race.placingLane, lane);
     }
+}
+
+// From the first click to the final scorecard and back, with nothing but clicks.
+TEST(WatchedRace, RunsFromTheMenuToTheScorecardWithClicksAlone)
+{
+    startProgram(320, 256);
+    std::srand(1);
+    settings.stepDistance = 999.0f;
+    Player player;
+    player.click(CONTROL_START);
+    raceSetup.multiStage = false; // on so small a screen its button lies under a name
+    player.click(CONTROL_TEAM_OK);
+    player.hover(coursePicture(3));
+    player.click(coursePicture(3));
+    for (int events = 0; gameState != STATE_FINAL_SCORECARD; ++events) {
+        ASSERT_LT(events, 20000) << "the race doesn't end";
+        if (gameState == STATE_ORDER_RESULT)
+            player.click(CONTROL_NEXT);
+        else if (gameState == STATE_ANIMATE)
+            ASSERT_TRUE(runTick());
+        else
+            player.click(CONTROL_EVENT_OK); // that of any message
+    }
+    EXPECT_EQ(fakeHost.pendingMs, -1);
+    for (int place = FINISH_SLOT; place < RESULT_SLOT_COUNT; ++place)
+        EXPECT_NE(race.resultSlots[place], -1);
+    resizeScreen(1280, 1024);
+    EXPECT_GT(countPixels(screenshot(), scorecardBox(), pixelOf(YELLOW)), 50)
+        << "the winner's pawn";
+    player.click(CONTROL_SHEET_QUIT);
+    EXPECT_EQ(gameState, STATE_MAIN_MENU);
+    EXPECT_EQ(race.sprintWinner, -1);
 }

@@ -9,11 +9,13 @@
 #include "race/race_state.h"
 #include "race/soundness.h"
 #include "screen/support/gl_window.h"
+#include "screen/support/player.h"
 #include "store/race_file.h"
 #include "support/fake_host.h"
-#include "screen/support/old_places.h"
+#include "support/own_folder.h"
 #include "ui/frame.h"
 #include "ui/layout.h"
+#include "ui/places.h"
 
 #include <GL/freeglut.h>
 #include <gtest/gtest.h>
@@ -76,60 +78,48 @@ private:
     {
         switch (gameState) {
         case STATE_MAIN_MENU:
-            return clickOn(below(2) == 0 ? menuContinueButton() : menuStartButton());
+            return clickOn(below(2) == 0 ? CONTROL_CONTINUE : CONTROL_START);
         case STATE_TEAM_SETUP:
             return nameTeams();
         case STATE_COURSE_SELECT:
-            return clickOn(below(3) == 0 ? newCourseButton()
-                                         : coursePicture(below(FIXED_COURSE_COUNT)));
+            return below(3) == 0 ? clickOn(CONTROL_CREATE_COURSE)
+                                 : clickOn(coursePicture(below(FIXED_COURSE_COUNT)));
         case STATE_COURSE_DESIGN:
-            return clickOn(addSectionButton());
+            return clickOn(CONTROL_ADD_SECTION);
         case STATE_CONFIRM_QUIT:
-            return clickOn(below(20) == 0 ? dialogLeftButton() : dialogRightButton());
+            return clickOn(below(20) == 0 ? CONTROL_QUIT_YES : CONTROL_QUIT_NO);
         case STATE_SAVE_FAILED:
-            return clickOn(dialogRightButton());
+            return clickOn(CONTROL_ABORT);
         case STATE_RACE_FILES:
             return chooseRace();
-        case STATE_EVENT_DIE:
-            return clickOn(extraThrowButton());
         case STATE_EVENT_HANDIN:
-            pressFunctionKey();
-            return clickOn(handInOkButton());
-        case STATE_SKIP_HANDIN:
-            return clickOn(handInOkButton());
-        case STATE_CONFIRM_DOPING:
-        case STATE_EVENT_CARD_KIND:
-        case STATE_EVENT_CARD_WHEN:
-            return clickOn(dialogLeftButton());
-        case STATE_EVENT_CARD:
-        case STATE_EVENT_NO_CARD:
-        case STATE_NO_MOVE:
-        case STATE_SKIP_NO_CARD:
-        case STATE_DOPING_NUMBER:
-        case STATE_DOPING_DRAW:
-        case STATE_DOPING_COUNTERCHECK:
-            return clickOn(dialogOkButton());
-        case STATE_ORDER_THROW:
-        case STATE_ORDER_RESULT:
-            return clickOn(throwButton());
+            onSpecialUp(GLUT_KEY_F1 + below(12), 0, 0);
+            return clickOn(CONTROL_HAND_IN);
         case STATE_TURN:
-            return clickOn(below(4) == 0 ? dopingButton() : throwButton());
+            return clickOn(below(4) == 0 ? CONTROL_DOPING : CONTROL_THROW);
         case STATE_MOVE:
             return onSpecialUp(GLUT_KEY_LEFT + below(3), 0, 0);
         case STATE_PLACE_HUMAN:
             onSpecialUp(GLUT_KEY_LEFT + below(4), 0, 0);
             return onKeyUp('\r', 0, 0);
         case STATE_SETTINGS:
-            return clickOn(settingsCancelButton());
-        case STATE_SCORECARD:
-        case STATE_FINAL_SCORECARD:
-        case STATE_RACE_STANDINGS:
-            return clickOn(scorecardOkButton());
-        case STATE_POSITIONS:
-            return clickOn(positionsOkButton());
-        default:
+            return clickOn(CONTROL_SETTINGS_CANCEL);
+        case STATE_ANIMATE:
+        case STATE_LANGUAGE:
             return letTimePass();
+        default:
+            return clickOn(firstLive());
         }
+    }
+
+    // "OK", "Yes", "Throw" or "Next", wherever there is one.
+    static Control firstLive()
+    {
+        for (int control = 0; control < CONTROL_COUNT; ++control)
+            if (isLive(static_cast<Control>(control)) &&
+                (control < CONTROL_TAB_1 || control > CONTROL_CAMERA))
+                return static_cast<Control>(control);
+        return CONTROL_EXIT;
     }
 
     void nameTeams()
@@ -139,19 +129,19 @@ private:
         for (std::string& name : raceSetup.teamName)
             if (name.empty())
                 name = "Somebody";
-        clickOn(teamComputerBox(below(TEAM_COUNT)));
-        clickOn(teamOkButton());
+        clickOn(static_cast<Control>(CONTROL_COMPUTER_1 + below(TEAM_COUNT)));
+        clickOn(CONTROL_TEAM_OK);
     }
 
     void chooseRace()
     {
         const Rect names = raceListNames();
-        const Rect buttons[] = {listOkButton(), listScorecardButton(), cornerButton()};
+        const Control buttons[] = {CONTROL_LIST_OK, CONTROL_LIST_SCORECARD, CONTROL_LIST_BACK};
         clickOn({names.x, names.y + static_cast<float>(below(40)), 30.0f, 1.0f});
         clickOn(buttons[below(3)]);
     }
 
-    void pressFunctionKey() { onSpecialUp(GLUT_KEY_F1 + below(12), 0, 0); }
+    void clickOn(Control control) { clickOn(placeOf(control)); }
 
     void clickOn(const Rect& at)
     {
@@ -182,15 +172,7 @@ private:
 
     void clickAt(int x, int y)
     {
-        constexpr int buttons[] = {GLUT_LEFT_BUTTON,
-                                   GLUT_LEFT_BUTTON,
-                                   GLUT_LEFT_BUTTON,
-                                   GLUT_LEFT_BUTTON,
-                                   GLUT_RIGHT_BUTTON,
-                                   GLUT_MIDDLE_BUTTON,
-                                   3,
-                                   4};
-        const int button = buttons[below(8)];
+        const int button = std::max(GLUT_LEFT_BUTTON, below(8) - 3); // left in half of all cases
         onHover(x, y);
         onMouse(button, GLUT_DOWN, x, y);
         if (below(8) == 0)
@@ -203,25 +185,8 @@ private:
 
     void clickControl()
     {
-        const Rect controls[] = {
-            throwButton(),       throwButton(),          dialogOkButton(),   dialogLeftButton(),
-            dialogRightButton(), cornerButton(),         menuStartButton(),  teamOkButton(),
-            coursePicture(0),    coursePicture(3),       newCourseButton(),  savedCourseButton(),
-            addSectionButton(),  prevSectionButton(),    sprintBox(),        finishBox(),
-            sectionRadio(1),     saveCourseButton(),     savedOkButton(),    nextCourseButton(),
-            teamComputerBox(0),  teamComputerBox(2),     teamNameBox(1),     multiStageRadio(),
-            singleStageRadio(),  raceNameBox(),          cardPlace(0),       cardPlace(11),
-            dicePlace(0),        dicePlace(1),           breakawayBox(),     viewToggle(),
-            cameraButton(),      quitButton(),           settingsButton(),   menuSettingsButton(),
-            settingsOkButton(),  smoothRadio(),          stepwiseRadio(),    ratioRadio(1),
-            settingsField(0),    menuManualButton(),     nextPageButton(),   menuLanguageButton(),
-            languageBox(1),      languageBox(3),         teamTab(2),         scorecardOkButton(),
-            dialogTitleBar(),    settingsCancelButton(), scorecardButton(),  positionsButton(),
-            dopingButton(),      scorecardTitleBar(),    exportButton(),     generalViewButton(),
-            stageViewButton(),   prevStageButton(),      nextStageButton(),  eventCardsBox(),
-            raceListNames(),     listPrevButton(),       listNextButton(),   listOkButton(),
-            handInSlot(0),       handInOkButton(),       extraThrowButton(), listScorecardButton()};
-        const Rect& at = controls[below(static_cast<int>(std::size(controls)))];
+        const std::vector<Rect> places = everyPlace();
+        const Rect& at = places[static_cast<std::size_t>(below(static_cast<int>(places.size())))];
         clickAt(layout.viewX + static_cast<int>(at.x + at.w * 0.5f),
                 static_cast<int>(at.y + at.h * 0.5f));
     }
@@ -279,28 +244,6 @@ std::string fault()
     return boardVisible() ? raceFault() : std::string{};
 }
 
-// Files that the monkey saves go into a folder that is thrown away.
-class Folder
-{
-public:
-    Folder()
-    {
-        const auto folder = std::filesystem::temp_directory_path() /
-                            ("gravelon-monkey-" + std::to_string(std::random_device{}()));
-        std::filesystem::create_directories(folder);
-        std::filesystem::current_path(folder);
-    }
-    ~Folder()
-    {
-        const auto folder = std::filesystem::current_path();
-        std::filesystem::current_path(before);
-        std::filesystem::remove_all(folder);
-    }
-
-private:
-    std::filesystem::path before = std::filesystem::current_path();
-};
-
 } // namespace
 
 TEST(Monkey, PressesAnythingAndNothingBreaks)
@@ -308,7 +251,7 @@ TEST(Monkey, PressesAnythingAndNothingBreaks)
     const long seed = numberFrom("GRAVELON_SEED", 20261122);
     const long events = numberFrom("GRAVELON_MONKEY", EVENTS);
     SCOPED_TRACE("GRAVELON_SEED=" + std::to_string(seed));
-    const Folder folder;
+    const OwnFolder folder;
     startProgram(640, 512);
     host.redraw = [] { ++fakeHost.redraws; };
     // Races to go on with, one of them of no use.

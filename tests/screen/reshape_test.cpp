@@ -1,6 +1,4 @@
 #include "app/game_state.h"
-#include "app/settings.h"
-#include "app/view.h"
 #include "board/course.h"
 #include "board/designer.h"
 #include "play/start.h"
@@ -8,54 +6,31 @@
 #include "screen/support/gl_window.h"
 #include "screen/support/player.h"
 #include "support/fake_host.h"
-#include "screen/support/old_places.h"
-#include "ui/layout.h"
+#include "ui/places.h"
 #include "ui/reshape.h"
 
 #include <gtest/gtest.h>
 
 #include <cstdlib>
 
-namespace
+static void openCourses(int width, int height)
 {
-
-struct Size {
-    int w, h;
-};
-
-constexpr Size SIZES[] = {{1920, 1080}, {1366, 768}, {1280, 1024}, {1024, 768}, {1500, 1000}};
-
-} // namespace
-
-// The window system reports the size asked for first and the one that the window gets after it.
-TEST(Reshape, TheSecondSizeLooksAsIfItHadBeenTheFirst)
-{
-    for (const Size& size : SIZES) {
-        startProgram(size.w, size.h);
-        Player player;
-        player.click("Start");
-        player.click("Single stage");
-        player.click("OK");
-        const Image direct = screenshot();
-
-        startProgram(1280, 960);
-        player.click("Start");
-        player.click("Single stage");
-        player.click("OK");
-        resizeScreen(size.w, size.h);
-        EXPECT_EQ(gameState, STATE_COURSE_SELECT);
-        EXPECT_TRUE(screenshot() == direct) << size.w << " by " << size.h;
-    }
+    startProgram(width, height);
+    Player().click({CONTROL_START, CONTROL_SINGLE_STAGE, CONTROL_TEAM_OK});
 }
 
-TEST(Reshape, EveryCourseIsClickedWhereItIsSeen)
+// The window system reports the size asked for first and the one that the window gets after it.
+TEST(Reshape, TheSecondSizeLooksAsIfItHadBeenTheFirstAndIsClickedWhereItIsSeen)
 {
-    for (const Size& size : SIZES) {
-        startProgram(size.w, size.h);
+    for (const auto& [width, height] :
+         {std::pair{1920, 1080}, {1366, 768}, {1280, 1024}, {1024, 768}, {1500, 1000}}) {
+        openCourses(width, height);
+        const Image direct = screenshot();
+        openCourses(1280, 960);
+        resizeScreen(width, height);
+        EXPECT_TRUE(screenshot() == direct) << width << " by " << height;
+
         Player player;
-        player.click("Start");
-        player.click("Single stage");
-        player.click("OK");
         for (int i = 0; i < fixedCourses.size(); ++i) {
             player.hover(coursePicture(i));
             EXPECT_EQ(courseScreens.courseHover, i);
@@ -72,9 +47,8 @@ TEST(Reshape, ARiderInMotionGoesOnWhereHeWas)
     std::srand(3);
     courseText = "01S23S4S5F12";
     startRace();
-    Player player;
     while (gameState == STATE_ORDER_RESULT)
-        player.click("Next");
+        Player().click(CONTROL_NEXT);
     for (int tick = 0; tick < 5; ++tick)
         runTick();
     ASSERT_EQ(gameState, STATE_ANIMATE);

@@ -1,19 +1,24 @@
 #include "app/game_state.h"
+#include "app/settings.h"
 #include "app/view.h"
-#include "board/course.h"
+#include "play/overlays.h"
 #include "race/race_state.h"
-#include "race/scoring.h"
-#include "screen/support/gl_window.h"
-#include "support/races.h"
-#include "screen/support/old_places.h"
+#include "screen/support/drawn_texts.h"
+#include "screen/support/player.h"
+#include "support/fake_host.h"
+#include "support/own_folder.h"
 #include "ui/frame.h"
 #include "ui/layout.h"
+#include "ui/places.h"
 #include "ui/score_pages.h"
 #include "ui/texts.h"
 
+#include <GL/freeglut.h>
 #include <gtest/gtest.h>
 
-// What the score sheet and the overview of the positions show.
+#include <filesystem>
+
+// What the score sheet shows, and how it is turned over.
 
 namespace
 {
@@ -32,19 +37,15 @@ Slots places(int sprintWinner, std::initializer_list<int> finish)
 }
 
 // In the third stage of a race, on its scorecard. Rider 3 has won a sprint and is on his way.
-void openThirdStage()
+void openThirdStage(GameState from = STATE_TURN)
 {
-    startProgram(640, 512);
-    raceSetup.multiStage = true;
+    startProgram(1280, 1024);
     raceSetup.raceStages = {{{}, places(0, {0, 1, 2})}, {{}, places(4, {4, 5, 6, 7})}};
+    raceSetup.standingsFileName = "Twelve chars.csv";
     race.resultSlots = places(3, {0, 1, 2, 8, 9, 10, 11});
-    gameState = STATE_SCORECARD;
-    view.scorecardStage = 2;
-}
-
-StagePoints shownPoints()
-{
-    return stagePoints(shownSlots(), shownStageRuns());
+    view.scorecardGeneral = true; // looked at last
+    gameState = from;
+    openScorecard();
 }
 
 float sheetX(float u)
@@ -56,155 +57,160 @@ float sheetY(float v)
     return layout.scorecardY + v * layout.scorecardPicH / 1419.0f;
 }
 
-// Beside the number of a pawn.
-Pixel pawnPixel(const Image& image, float u, float v)
+// What stands on a part of the sheet, in the units of the paper.
+std::string wordsOnSheet(float left, float top, float right, float bottom)
 {
-    return image.at(sheetX(u), sheetY(v) - 8.0f);
+    return wordsAt(
+        {sheetX(left), sheetY(top), sheetX(right) - sheetX(left), sheetY(bottom) - sheetY(top)});
 }
 
-// The first and the last line in which two screens differ.
-struct Lines {
-    int first = -1;
-    int last = -1;
-};
-
-Lines differingLines(const Image& a, const Image& b)
+// Of the table of the four teams, a line for each rider and one of the sums.
+std::string teamTable()
 {
-    Lines lines;
-    for (int y = 0; y < a.height; ++y)
-        for (int x = 0; x < a.width; ++x)
-            if (a.at(x, y) != b.at(x, y)) {
-                lines.first = lines.first == -1 ? y : lines.first;
-                lines.last = y;
-            }
-    return lines;
+    return wordsOnSheet(450.0f, 950.0f, 1072.0f, 1330.0f);
+}
+
+bool hasWord(const std::string& word)
+{
+    for (const DrawnText& text : drawnTexts())
+        if (text.words == word)
+            return true;
+    return false;
 }
 
 } // namespace
 
-TEST(ScorePages, AStageInProgressKeepsSilentOnWhoIsStillToCome)
+TEST(Scorecard, AStageInProgressKeepsSilentOnWhoIsStillToCome)
 {
     openThirdStage();
-    const StagePoints points = shownPoints();
-    EXPECT_EQ(riderTotalText(points, 0), "50");
-    EXPECT_EQ(riderTotalText(points, 3), "");
-    EXPECT_EQ(teamTotalText(points, 0), "") << "three of four are in";
-    EXPECT_EQ(teamTotalText(points, 2), "116");
-    EXPECT_EQ(teamTotalText(points, 3), "");
-}
-
-TEST(ScorePages, AFinishedStageGivesEverybodyATotal)
-{
-    openThirdStage();
+    EXPECT_TRUE(hasWord("Standings stage 3")) << "not the general classification";
+    EXPECT_EQ(teamTable(), "50|40|35||||||32|30|28|26|||||||116|");
     view.scorecardStage = 0;
-    const StagePoints points = shownPoints();
-    EXPECT_EQ(riderTotalText(points, 0), "60");
-    EXPECT_EQ(riderTotalText(points, 3), "0");
-    EXPECT_EQ(teamTotalText(points, 0), "135");
-    EXPECT_EQ(teamTotalText(points, 3), "0");
+    EXPECT_TRUE(hasWord("Result stage 1"));
+    EXPECT_EQ(teamTable(), "60|40|35|0|0|0|0|0|0|0|0|0|0|0|0|0|135|0|0|0");
 }
 
-TEST(ScorePages, TheResultOfASingleStageGivesADisqualifiedRiderNothing)
+TEST(Scorecard, TheResultOfASingleStageGivesADisqualifiedRiderNothing)
 {
-    startProgram(640, 512);
+    openThirdStage();
     raceSetup.multiStage = false;
+    raceSetup.raceStages.clear();
     race.resultSlots = places(0, {0, 1, 2});
     race.riders[3].disqualified = 1;
-    gameState = STATE_FINAL_SCORECARD;
-    const StagePoints points = shownPoints();
-    EXPECT_EQ(riderTotalText(points, 3), "0");
-    EXPECT_EQ(riderTotalText(points, 4), "");
-    EXPECT_EQ(teamTotalText(points, 0), "135");
-    EXPECT_EQ(scorePageTitle(), "");
-    EXPECT_FALSE(mayShowGeneral() || mayTurnBack() || mayTurnOn());
     view.scorecardGeneral = true; // left over from another race
-    EXPECT_FALSE(generalPageShown());
-}
-
-TEST(ScorePages, TheRunningStageIsTheLastOneOnlyWhileTheRaceIsOn)
-{
-    openThirdStage();
-    EXPECT_EQ(scorePageTitle(), "Standings stage 3");
-    EXPECT_FALSE(mayTurnOn());
-    view.scorecardStage = 1;
-    EXPECT_EQ(scorePageTitle(), "Result stage 2");
-    EXPECT_TRUE(mayTurnOn());
     gameState = STATE_FINAL_SCORECARD;
-    EXPECT_FALSE(mayTurnOn());
-    EXPECT_TRUE(mayTurnBack());
-    view.scorecardGeneral = true;
-    EXPECT_EQ(scorePageTitle(), "General classification after stage 2");
-    EXPECT_FALSE(mayTurnBack() || mayShowGeneral());
-    EXPECT_TRUE(mayShowStage());
+    EXPECT_EQ(teamTable(), "60|40|35|0|||||||||||||135|0|0|0");
+    EXPECT_EQ(scorePageTitle(), "");
+    EXPECT_FALSE(mayShowGeneral() || mayTurnBack() || mayTurnOn() || mayShowStage());
 }
 
-TEST(ScorePages, AShorterRaceIsShownByItsLastStage)
+TEST(Scorecard, AShorterRaceIsShownByItsLastStageAndOneWithoutByAnEmptyPage)
 {
     openThirdStage();
     gameState = STATE_RACE_STANDINGS;
+    view.scorecardGeneral = false;
     view.scorecardStage = 7;
     EXPECT_EQ(scorePageTitle(), "Result stage 2");
     EXPECT_EQ(shownSlots()[0], 4);
     raceSetup.raceStages.clear();
-    EXPECT_EQ(scorePageTitle(), "Result stage 1");
-    EXPECT_EQ(shownSlots(), (filled<int, RESULT_SLOT_COUNT>(-1)))
-        << "the race in memory is another one";
-    EXPECT_FALSE(mayShowGeneral());
-    drawFrame();
+    EXPECT_TRUE(hasWord("Result stage 1"));
+    EXPECT_EQ(shownSlots(), places(-1, {})) << "the race in memory is another one";
+    Player().click(CONTROL_GENERAL);
+    EXPECT_FALSE(view.scorecardGeneral);
+}
+
+TEST(Scorecard, TheGeneralPageSumsUpTheStages)
+{
+    openThirdStage();
+    Player().click(CONTROL_GENERAL);
+    EXPECT_TRUE(hasWord("General classification after stage 2"));
+    EXPECT_EQ(
+        wordsOnSheet(260.0f, 180.0f, 830.0f, 420.0f),
+        "1|Netherlands|(31-34)|167|2|Belgium|(21-24)|135|3|Germany|(41-44)|0|4|France|(51-54)|0");
+}
+
+TEST(Scorecard, PagesTurnAsFarAsThereAreStages)
+{
+    openThirdStage();
+    Player player;
+    const auto at = [](int stage) { return view.scorecardStage == stage; };
+    player.special(GLUT_KEY_RIGHT);
+    EXPECT_TRUE(at(2));
+    player.special({GLUT_KEY_LEFT, GLUT_KEY_LEFT, GLUT_KEY_LEFT});
+    EXPECT_TRUE(at(0));
+    player.click(CONTROL_NEXT_STAGE);
+    EXPECT_TRUE(at(1));
+    gameState = STATE_FINAL_SCORECARD;
+    player.click(CONTROL_NEXT_STAGE);
+    EXPECT_TRUE(at(1)) << "the stage that ran is the last record now";
+    player.click({CONTROL_PREVIOUS_STAGE, CONTROL_GENERAL});
+    player.special(GLUT_KEY_RIGHT);
+    EXPECT_TRUE(at(0)) << "no arrows on the general page";
+    player.click(CONTROL_STAGE);
+    EXPECT_TRUE(!view.scorecardGeneral && at(1)) << "the last one there is";
+}
+
+TEST(Scorecard, DutchGeneralHasTheLetterOfQuitWhereThereIsNone)
+{
+    openThirdStage();
+    settings.language = LANGUAGE_DUTCH;
+    loadTexts();
+    Player player;
+    player.key('t');
+    EXPECT_EQ(gameState, STATE_SCORECARD);
+    EXPECT_TRUE(view.scorecardGeneral);
+    view.scorecardGeneral = false;
+    gameState = STATE_FINAL_SCORECARD;
+    player.key('t');
+    EXPECT_EQ(gameState, STATE_MAIN_MENU);
+    EXPECT_FALSE(view.scorecardGeneral);
+    settings = {};
+    loadTexts();
+}
+
+TEST(Scorecard, OkForgetsTheMessageAndLetsTheMoveGoOn)
+{
+    const OwnFolder folder;
+    openThirdStage(STATE_ANIMATE);
+    Player player;
+    player.key('x');
+    EXPECT_TRUE(hasWord("Standings written to \"Twelve chars.csv\"."));
+    EXPECT_TRUE(std::filesystem::exists("Twelve chars.csv"));
+    fakeHost.pendingMs = -1;
+    player.click(CONTROL_SHEET_OK);
+    EXPECT_EQ(gameState, STATE_ANIMATE);
+    EXPECT_EQ(view.exportStatus, EXPORT_NONE);
+    EXPECT_EQ(fakeHost.pendingMs, 0);
 }
 
 TEST(Scorecard, SprintPawnsOfAFinishedStageAreThoseOfFinishers)
 {
     openThirdStage();
-    resizeScreen(1280, 1024);
     raceSetup.raceStages[0].slots = race.resultSlots;
-    drawFrame();
-    EXPECT_EQ(pawnPixel(screenshot(), 690.0f, 614.0f), pixelOf(teamColour[0]));
-    EXPECT_EQ(pawnPixel(screenshot(), 159.0f, 395.0f + 3 * 59.6f), pixelOf(teamColour[2]));
+    const auto sprintPawn = [] {
+        drawFrame();
+        return screenshot().at(sheetX(690.0f), sheetY(614.0f) - 8.0f);
+    };
+    EXPECT_EQ(sprintPawn(), pixelOf(teamColour[0]));
     view.scorecardStage = 0;
-    drawFrame();
-    EXPECT_NE(pawnPixel(screenshot(), 690.0f, 614.0f), pixelOf(teamColour[0]));
+    EXPECT_NE(sprintPawn(), pixelOf(teamColour[0]));
 }
 
 TEST(Scorecard, TheMessageOfTheExportCoversNoResultAndNoButton)
 {
     openThirdStage();
-    raceSetup.standingsFileName = "Twelve chars.csv";
     for (const auto& [width, height] : {std::pair{1280, 1024}, {1920, 1080}, {1024, 768}})
         for (const bool general : {false, true}) {
             resizeScreen(width, height);
             view.scorecardGeneral = general;
-            view.exportStatus = EXPORT_NONE;
-            drawFrame();
-            const Image before = screenshot();
             view.exportStatus = EXPORT_FAILED;
-            drawFrame();
-            const Lines lines = differingLines(before, screenshot());
-            const int top = layout.viewY;
-            EXPECT_GT(lines.first, top + static_cast<int>(sheetY(general ? 1010.0f : 1324.0f)));
-            EXPECT_LT(lines.last, top + static_cast<int>(exportButton().y));
-            EXPECT_GT(lines.last - lines.first, 20) << "two lines";
+            int lines = 0;
+            for (const DrawnText& text : drawnTexts())
+                if (text.colour == pixelOf(FAILURE_RED)) {
+                    ++lines;
+                    EXPECT_GT(text.place.y, sheetY(general ? 1010.0f : 1324.0f)) << width;
+                    EXPECT_LT(text.place.y + text.place.h, placeOf(CONTROL_EXPORT).y) << width;
+                }
+            EXPECT_EQ(lines, 2);
         }
-}
-
-TEST(Positions, RidersOffTheBoardAreDimAndFinishersGone)
-{
-    startProgram(1280, 1024);
-    startSeededRace("01S23S4S5F12", 3);
-    for (int rider = 0; rider < RIDER_COUNT; ++rider)
-        race.riders[rider].finished = rider > 2;
-    race.riders[1].offBoard = 1;
-    race.sprintWinner = 2;
-    gameState = STATE_POSITIONS;
-    drawFrame();
-    const Image image = screenshot();
-    const auto pawn = [&](int place) {
-        return image.at(static_cast<float>(layout.viewW) *
-                            (0.35f + 0.1f * static_cast<float>(place)),
-                        static_cast<float>(layout.viewH) * 0.82f + 9.0f);
-    };
-    EXPECT_EQ(pawn(0), pixelOf(teamColour[0]));
-    EXPECT_TRUE(closeTo(pawn(1), pixelOf(teamColourDim[0]), 1));
-    EXPECT_EQ(pawn(2), pixelOf(YELLOW));
-    EXPECT_EQ(pawn(3), pixelOf(panelBlue));
 }

@@ -1,22 +1,18 @@
 #include "app/game_state.h"
-#include "app/host.h"
 #include "app/settings.h"
 #include "app/view.h"
 #include "board/course.h"
 #include "board/designer.h"
-#include "input/keyboard.h"
-#include "input/mouse.h"
 #include "race/race_state.h"
-#include "screen/support/every_control.h"
 #include "screen/support/gl_window.h"
 #include "screen/support/player.h"
 #include "screen/support/scenes.h"
 #include "store/race_file.h"
 #include "support/fake_host.h"
 #include "support/own_folder.h"
-#include "screen/support/old_places.h"
 #include "ui/layout.h"
 #include "ui/manual_pages.h"
+#include "ui/places.h"
 #include "ui/race_list.h"
 #include "ui/settings_screen.h"
 #include "ui/team_setup.h"
@@ -25,6 +21,7 @@
 #include <GL/freeglut.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
@@ -33,8 +30,9 @@
 #include <tuple>
 #include <vector>
 
-// Every key and every control is tried in every state. The tables say what acts where; whatever
-// they don't name must change nothing at all.
+// Every key and every control is tried in every state. The tables say what acts where, on the press
+// or the release, by which letter, and what it may change; whatever they don't name must change
+// nothing at all. They are written by what the game is to do, not by the rows of ui/controls.
 
 namespace
 {
@@ -92,216 +90,174 @@ struct Effect {
     unsigned mayChange = NOTHING; // in addition, by where exactly the control is met
 };
 
-struct ControlAct {
+// A control, or another place that is clicked.
+struct Spot {
+    Spot(Control it) : control(it), place(placeOf(it)) {}
+    Spot(const Rect& at) : place(at) {}
+
+    Control control = NO_CONTROL;
+    Rect place;
+};
+
+// Its letters in German, English, French and Dutch, a blank for none.
+constexpr const char* OKS = "oooo\r "; // with the keys that say "OK"
+
+struct Act {
     Scenes scenes;
-    Rect (*at)();
+    Spot spot;
+    const char* letters;
     Effect effect;
 };
 
 // clang-format off
-const ControlAct CONTROL_ACTS[] = {
-//   where              which                                what happens
-    {MENU,              menuLanguageButton,                  {STATE_LANGUAGE}},
-    {MENU,              menuManualButton,                    {STATE_MANUAL}},
-    {MENU,              menuSettingsButton,                  {STATE_SETTINGS}},
-    {MENU,              menuStartButton,                     {STATE_TEAM_SETUP}},
-    {MENU,              menuContinueButton,                  {STATE_RACE_FILES, NOTHING, LIST}},
-    {MENU,              exitButton,                          {SAME, PROGRAM}},
-    {LANGUAGES,         [] { return languageBox(0); },       {STATE_MAIN_MENU, SETTINGS | FILES}},
-    {LANGUAGES,         [] { return languageBox(1); },       {STATE_MAIN_MENU, SETTINGS | FILES}},
-    {LANGUAGES,         [] { return languageBox(2); },       {STATE_MAIN_MENU, SETTINGS | FILES}},
-    {LANGUAGES,         [] { return languageBox(3); },       {STATE_MAIN_MENU, SETTINGS | FILES}},
-    {MANUAL,            manualOkButton,                      {STATE_MAIN_MENU}},
-    {MANUAL,            prevPageButton,                      {SAME, PAGE}},
-    {MANUAL,            nextPageButton,                      {SAME, PAGE}},
-    {OPTIONS,           smoothRadio,                         {SAME, SETTINGS}},
-    {OPTIONS,           stepwiseRadio,                       {SAME, SETTINGS}},
-    {OPTIONS,           [] { return settingsField(0); },     {SAME, SETTINGS}},
-    {OPTIONS,           [] { return settingsField(1); },     {SAME, NOTHING, SETTINGS}},
-    {OPTIONS,           defaultButton,                       {SAME, SETTINGS}},
-    {OPTIONS,           [] { return ratioRadio(1); },        {SAME, SETTINGS}},
-    {OPTIONS,           [] { return ratioRadio(2); },        {SAME, SETTINGS}},
-    {OPTIONS,           settingsOkButton,                    {STATE_MAIN_MENU, SETTINGS | FILES}},
-    {OPTIONS,           settingsCancelButton,                {STATE_MAIN_MENU, SETTINGS}},
-    {TEAMS | NAMED,     [] { return teamNameBox(0); },       {SAME, SETUP}},
-    {TEAMS | NAMED,     [] { return teamNameBox(1); },       {SAME, SETUP}},
-    {TEAMS | NAMED,     [] { return teamNameBox(2); },       {SAME, SETUP}},
-    {TEAMS | NAMED,     [] { return teamNameBox(3); },       {SAME, SETUP}},
-    {TEAMS | NAMED,     [] { return teamComputerBox(0); },   {SAME, RACE}},
-    {TEAMS | NAMED,     [] { return teamComputerBox(1); },   {SAME, RACE}},
-    {TEAMS | NAMED,     [] { return teamComputerBox(2); },   {SAME, RACE}},
-    {TEAMS | NAMED,     [] { return teamComputerBox(3); },   {SAME, RACE}},
-    {NAMED,             multiStageRadio,                     {SAME, SETUP}},
-    {TEAMS,             singleStageRadio,                    {SAME, SETUP}},
-    {TEAMS,             raceNameBox,                         {SAME, SETUP}},
-    {TEAMS | NAMED,     eventCardsBox,                       {SAME, SETUP}},
-    {TEAMS,             teamOkButton,                        {STATE_SETUP_MESSAGE, SETUP}},
-    {NAMED,             teamOkButton,                        {STATE_COURSE_SELECT, SETUP}},
-    {TEAMS | NAMED,     cornerButton,                        {STATE_MAIN_MENU}},
-    {MESSAGE,           dialogOkButton,                      {STATE_TEAM_SETUP}},
-    {COURSES,           [] { return courseCell(0); },        {STATE_ORDER_RESULT, RACE | COURSE}},
-    {COURSES,           [] { return courseCell(1); },        {STATE_ORDER_RESULT, RACE | COURSE}},
-    {COURSES,           [] { return courseCell(2); },        {STATE_ORDER_RESULT, RACE | COURSE}},
-    {COURSES,           [] { return courseCell(3); },        {STATE_ORDER_RESULT, RACE | COURSE}},
-    {COURSES,           newCourseButton,                     {STATE_COURSE_DESIGN}},
-    {COURSES,           savedCourseButton,                   {STATE_COURSE_SAVED, COURSE}},
-    {COURSES,           cornerButton,                        {STATE_TEAM_SETUP}},
-    {DESIGN,            [] { return sectionRadio(0); },      {SAME, COURSE}},
-    {DESIGN,            sprintBox,                           {SAME, COURSE}},
-    {DESIGN,            finishBox,                           {SAME, COURSE}},
-    {DESIGN | DESIGNED, prevSectionButton,                   {SAME, COURSE}},
-    {DESIGN,            addSectionButton,                    {SAME, COURSE}},
-    {DESIGNED,          addSectionButton,                    {STATE_ORDER_RESULT, RACE | COURSE}},
-    {DESIGNED,          saveCourseButton,                    {SAME, FILES}},
-    {DESIGN | DESIGNED, cornerButton,                        {STATE_COURSE_SELECT}},
-    {SAVED,             prevCourseButton,                    {SAME, COURSE}},
-    {SAVED,             nextCourseButton,                    {SAME, COURSE}},
-    {SAVED,             savedOkButton,                       {STATE_ORDER_RESULT, RACE | COURSE}},
-    {SAVED,             savedBackButton,                     {STATE_COURSE_SELECT}},
-    {THROW,             throwButton,                         {STATE_ORDER_RESULT, RACE}},
-    {RESULT,            throwButton,                         {SAME, RACE}},
-    {TURN | CARD | DOPED, throwButton,                       {STATE_MOVE, RACE}},
-    {TURN | CARD,       dopingButton,                        {STATE_CONFIRM_DOPING}},
-    {DOPING,            dialogLeftButton,                    {STATE_DOPING_NUMBER, RACE}},
-    {DOPING,            dialogRightButton,                   {STATE_TURN}},
-    {NUMBER,            dialogOkButton,                      {STATE_TURN, RACE}},
-    {LAYING,            [] { return cardPlace(0); },         {SAME, RACE}},
-    {LAYING,            [] { return cardPlace(1); },         {SAME, RACE}},
-    {LAYING,            [] { return cardPlace(2); },         {SAME, RACE}},
-    {LAYING,            [] { return cardPlace(3); },         {SAME, RACE}},
-    {LAYING,            [] { return cardPlace(10); },        {SAME, RACE}},
-    {LAYING,            [] { return cardPlace(11); },        {SAME, RACE}},
-    {TURN | DOPED,      [] { return cardPlace(12); },        {SAME, RACE}},
-    {LAYING,            [] { return cardPlace(13); },        {SAME, RACE}},
-    {CARD,              [] { return dicePlace(0); },         {SAME, RACE}},
-    {CARD | DOPED,      breakawayBox,                        {SAME, RACE}},
-    {FOLLOW,            dialogLeftButton,                    {STATE_TURN, RACE | VIEW}},
-    {FOLLOW,            dialogRightButton,                   {STATE_TURN, RACE}},
-    {NO_MOVE,           dialogOkButton,                      {STATE_TURN, RACE | VIEW}},
-    {QUIT,              dialogLeftButton,                    {STATE_MAIN_MENU}},
-    {QUIT,              dialogRightButton,                   {STATE_ORDER_RESULT}},
-    {EVENT,             dialogOkButton,                      {STATE_SKIP_HANDIN, RACE}},
-    {KIND,              dialogLeftButton,                    {STATE_EVENT_CARD_WHEN, RACE}},
-    {KIND,              dialogRightButton,                   {STATE_EVENT_CARD_WHEN, RACE}},
-    {WHEN,              dialogLeftButton,                    {STATE_MOVE, RACE}},
-    {WHEN,              dialogRightButton,                   {STATE_MOVE, RACE}},
-    {EXTRA_DIE,         extraThrowButton,                    {STATE_MOVE, RACE}},
-    {NO_CARD,           dialogOkButton,                      {STATE_MOVE}},
-    {PAY,               handInOkButton,                      {STATE_MOVE, RACE}},
-    {MISS,              handInOkButton,                      {STATE_TURN, RACE | VIEW}},
-    {PAY | MISS,        [] { return handInSlot(0); },        {SAME, RACE}},
-    {MISS_ALL,          dialogOkButton,                      {STATE_TURN, RACE | VIEW}},
-    {DRAW,              dialogOkButton,                      {STATE_DOPING_COUNTERCHECK, RACE}},
-    {CHECK,             dialogOkButton,                      {SAME, RACE}},
-    {NOT_SAVED,         dialogRightButton,                   {STATE_FINAL_SCORECARD}},
-    {FINAL,             scorecardOkButton,                   {STATE_MAIN_MENU}},
-    {FINAL | SHEETS,    exportButton,                        {SAME, VIEW | FILES}},
-    {SHEET | GENERAL,   scorecardOkButton,                   {STATE_TURN}},
-    {SAVED_SHEET,       scorecardOkButton,                   {STATE_RACE_FILES}},
-    {SHEET | SAVED_SHEET, generalViewButton,                 {SAME, VIEW}},
-    {GENERAL,           stageViewButton,                     {SAME, VIEW}},
-    {SHEET,             prevStageButton,                     {SAME, VIEW}},
-    {SHEET | SAVED_SHEET, nextStageButton,                   {SAME, VIEW}},
-    {WHERE,             positionsOkButton,                   {STATE_TURN}},
-    {RACES,             raceListNames,                       {SAME, SETUP | LIST}},
-    {CHOSEN,            raceListNames,                       {SAME, NOTHING, SETUP}},
-    {RACES | CHOSEN,    listPrevButton,                      {SAME, LIST}},
-    {RACES | CHOSEN,    listNextButton,                      {SAME, LIST}},
-    {RACES | CHOSEN,    cornerButton,                        {STATE_MAIN_MENU}},
-    {CHOSEN,            listOkButton,                        {STATE_COURSE_SELECT, SETUP | RACE}},
-    {CHOSEN,            listScorecardButton,                 {STATE_RACE_STANDINGS}},
-    {PANEL,             scorecardButton,                     {STATE_SCORECARD}},
-    {PANEL,             positionsButton,                     {STATE_POSITIONS}},
-    {PANEL,             settingsButton,                      {STATE_SETTINGS}},
-    {PANEL,             quitButton,                          {STATE_CONFIRM_QUIT}},
-    {LOOK,              viewToggle,                          {SAME, VIEW}},
-    {LOOK,              cameraButton,                        {SAME, VIEW}},
-    {TABS & ~FOLLOW,    [] { return teamTab(1); },           {SAME, VIEW}},
-    {FOLLOW,            [] { return teamTab(0); },           {SAME, VIEW}},
-    {TABS,              [] { return teamTab(2); },           {SAME, VIEW}},
-    {TABS,              [] { return teamTab(3); },           {SAME, VIEW}},
-};
+std::vector<Act> pressActs()
+{
+    std::vector<Act> acts = {
+    //   where                 which                     letters    what happens
+        {TURN | CARD | DOPED,  CONTROL_THROW,            "wtjg",    {STATE_MOVE, RACE}},
+        {CARD | DOPED,         CONTROL_BREAKAWAY,        "abdd",    {SAME, RACE}},
+        {TURN | CARD,          CONTROL_DOPING,           "ddoo",    {STATE_CONFIRM_DOPING}},
+        {EXTRA_DIE,            CONTROL_EXTRA_THROW,      "wtjg",    {STATE_MOVE, RACE}},
+        {PAY,                  CONTROL_HAND_IN,          OKS,       {STATE_MOVE, RACE}},
+        {MISS,                 CONTROL_HAND_IN,          OKS,       {STATE_TURN, RACE | VIEW}},
+        {CARD,                 dicePlace(0),             "",        {SAME, RACE}},
+        {PAY | MISS,           handInSlot(0),            "",        {SAME, RACE}},
+        {TURN | DOPED,         cardPlace(12),            "",        {SAME, RACE}},
+        {PANEL,                CONTROL_SCORECARD,        "ssss",    {STATE_SCORECARD}},
+        {PANEL,                CONTROL_POSITIONS,        "pppp",    {STATE_POSITIONS}},
+        {PANEL,                CONTROL_RACE_SETTINGS,    "eeai",    {STATE_SETTINGS}},
+        {PANEL,                CONTROL_QUIT,             "uqqt",    {STATE_CONFIRM_QUIT}},
+        {LOOK,                 CONTROL_VIEW,             "",        {SAME, VIEW}},
+        {LOOK,                 CONTROL_CAMERA,           "",        {SAME, VIEW}},
+    };
+    for (const int slot : {0, 1, 2, 3, 10, 11, 13})
+        acts.push_back({LAYING, cardPlace(slot), "", {SAME, RACE}});
+    return acts;
+}
+
+std::vector<Act> releaseActs()
+{
+    std::vector<Act> acts = {
+    //   where                 which                     letters    what happens
+        {MENU,                 CONTROL_START,            "sscs",    {STATE_TEAM_SETUP}},
+        {MENU,                 CONTROL_MANUAL,           "amnh",    {STATE_MANUAL}},
+        {MENU,                 CONTROL_MENU_SETTINGS,    "etpi",    {STATE_SETTINGS}},
+        {MENU,                 CONTROL_LANGUAGE,         "plht",    {STATE_LANGUAGE}},
+        {MENU,                 CONTROL_CONTINUE,         "wctv",    {STATE_RACE_FILES, NOTHING, LIST}},
+        {MENU,                 CONTROL_EXIT,             "befe",    {SAME, PROGRAM}},
+        {MANUAL,               CONTROL_MANUAL_OK,        "oooo",    {STATE_MAIN_MENU}},
+        {MANUAL,               CONTROL_PREVIOUS_PAGE,    "",        {SAME, PAGE}},
+        {MANUAL,               CONTROL_NEXT_PAGE,        "",        {SAME, PAGE}},
+        {OPTIONS,              CONTROL_SMOOTH,           "",        {SAME, SETTINGS}},
+        {OPTIONS,              CONTROL_STEPWISE,         "",        {SAME, SETTINGS}},
+        {OPTIONS,              settingsField(0),         "",        {SAME, SETTINGS}},
+        {OPTIONS,              settingsField(1),         "",        {SAME, NOTHING, SETTINGS}},
+        {OPTIONS,              CONTROL_DEFAULT,          "",        {SAME, SETTINGS}},
+        {OPTIONS,              CONTROL_RATIO_54,         "",        {}},
+        {OPTIONS,              CONTROL_RATIO_43,         "",        {SAME, SETTINGS}},
+        {OPTIONS,              CONTROL_RATIO_1610,       "",        {SAME, SETTINGS}},
+        {OPTIONS,              CONTROL_SETTINGS_OK,      "",        {STATE_MAIN_MENU, SETTINGS | FILES}},
+        {OPTIONS,              CONTROL_SETTINGS_CANCEL,  "",        {STATE_MAIN_MENU, SETTINGS}},
+        {NAMED,                CONTROL_MULTI_STAGE,      "",        {SAME, SETUP}},
+        {TEAMS,                CONTROL_MULTI_STAGE,      "",        {}},
+        {TEAMS,                CONTROL_SINGLE_STAGE,     "",        {SAME, SETUP}},
+        {NAMED,                CONTROL_SINGLE_STAGE,     "",        {}},
+        {TEAMS,                raceNameBox(),            "",        {SAME, SETUP}},
+        {TEAMS | NAMED,        CONTROL_EVENT_CARDS,      "",        {SAME, SETUP}},
+        {TEAMS,                CONTROL_TEAM_OK,          "",        {STATE_SETUP_MESSAGE, SETUP}},
+        {NAMED,                CONTROL_TEAM_OK,          "",        {STATE_COURSE_SELECT, SETUP}},
+        {TEAMS | NAMED,        CONTROL_TEAM_BACK,        "",        {STATE_MAIN_MENU}},
+        {MESSAGE,              CONTROL_SETUP_MESSAGE_OK, OKS,       {STATE_TEAM_SETUP}},
+        {COURSES,              CONTROL_CREATE_COURSE,    "nccn",    {STATE_COURSE_DESIGN}},
+        {COURSES,              CONTROL_SAVED_COURSE,     "guuo",    {STATE_COURSE_SAVED, COURSE}},
+        {COURSES,              CONTROL_COURSE_BACK,      "zbrt",    {STATE_TEAM_SETUP}},
+        {DESIGN,               sectionRadio(0),          "",        {SAME, COURSE}},
+        {DESIGN,               CONTROL_SPRINT,           "",        {SAME, COURSE}},
+        {DESIGN,               CONTROL_FINISH,           "",        {SAME, COURSE}},
+        {DESIGN | DESIGNED,    CONTROL_PREVIOUS_SECTION, "vppv",    {SAME, COURSE}},
+        {DESIGN,               CONTROL_ADD_SECTION,      "haat",    {SAME, COURSE}},
+        {DESIGNED,             CONTROL_DESIGN_OK,        OKS,       {STATE_ORDER_RESULT, RACE | COURSE}},
+        {DESIGNED,             CONTROL_SAVE_COURSE,      "",        {SAME, FILES}},
+        {DESIGN | DESIGNED,    CONTROL_DESIGN_BACK,      "",        {STATE_COURSE_SELECT}},
+        {SAVED,                CONTROL_PREVIOUS_COURSE,  "",        {SAME, COURSE}},
+        {SAVED,                CONTROL_NEXT_COURSE,      "",        {SAME, COURSE}},
+        {SAVED,                CONTROL_SAVED_OK,         "",        {STATE_ORDER_RESULT, RACE | COURSE}},
+        {SAVED,                CONTROL_SAVED_BACK,       "",        {STATE_COURSE_SELECT}},
+        {THROW,                CONTROL_ORDER_THROW,      "wtjg",    {STATE_ORDER_RESULT, RACE}},
+        {RESULT,               CONTROL_NEXT,             "nnuv",    {SAME, RACE}},
+        {DOPING,               CONTROL_DOPING_YES,       "jyoj",    {STATE_DOPING_NUMBER, RACE}},
+        {DOPING,               CONTROL_DOPING_NO,        "nnnn",    {STATE_TURN}},
+        {NUMBER,               CONTROL_DOPING_NUMBER_OK, OKS,       {STATE_TURN, RACE}},
+        {FOLLOW,               CONTROL_FOLLOW_YES,       "jyoj",    {STATE_TURN, RACE | VIEW}},
+        {FOLLOW,               CONTROL_FOLLOW_NO,        "nnnn",    {STATE_TURN, RACE}},
+        {NO_MOVE,              CONTROL_NO_MOVE_OK,       OKS,       {STATE_TURN, RACE | VIEW}},
+        {QUIT,                 CONTROL_QUIT_YES,         "jyoj",    {STATE_MAIN_MENU}},
+        {QUIT,                 CONTROL_QUIT_NO,          "nnnn",    {STATE_ORDER_RESULT}},
+        {EVENT,                CONTROL_EVENT_OK,         OKS,       {STATE_SKIP_HANDIN, RACE}},
+        {KIND,                 CONTROL_BLUE,             "bbeb",    {STATE_EVENT_CARD_WHEN, RACE}},
+        {KIND,                 CONTROL_WHITE,            "wwaw",    {STATE_EVENT_CARD_WHEN, RACE}},
+        {WHEN,                 CONTROL_IMMEDIATELY,      " itd",    {STATE_MOVE, RACE}},
+        {WHEN,                 CONTROL_LATER,            " lpl",    {STATE_MOVE, RACE}},
+        {NO_CARD,              CONTROL_NO_EVENT_OK,      OKS,       {STATE_MOVE}},
+        {MISS_ALL,             CONTROL_NO_CARD_OK,       OKS,       {STATE_TURN, RACE | VIEW}},
+        {DRAW,                 CONTROL_DOPING_DRAW_OK,   OKS,       {STATE_DOPING_COUNTERCHECK, RACE}},
+        {CHECK,                CONTROL_COUNTERCHECK_OK,  OKS,       {SAME, RACE}},
+        {NOT_SAVED,            CONTROL_RETRY,            "rrrr",    {}},
+        {NOT_SAVED,            CONTROL_ABORT,            "aaaa",    {STATE_FINAL_SCORECARD}},
+        {FINAL,                CONTROL_SHEET_QUIT,       "uqqt",    {STATE_MAIN_MENU}},
+        {FINAL | SHEETS,       CONTROL_EXPORT,           "xxxx",    {SAME, VIEW | FILES}},
+        {SHEET | GENERAL,      CONTROL_SHEET_OK,         OKS,       {STATE_TURN}},
+        {SAVED_SHEET,          CONTROL_SHEET_OK,         OKS,       {STATE_RACE_FILES}},
+        {SHEET | SAVED_SHEET,  CONTROL_GENERAL,          "gggt",    {SAME, VIEW}},
+        {GENERAL,              CONTROL_STAGE,            "esee",    {SAME, VIEW}},
+        {SHEET,                CONTROL_PREVIOUS_STAGE,   "",        {SAME, VIEW}},
+        {SHEET | SAVED_SHEET,  CONTROL_NEXT_STAGE,       "",        {SAME, VIEW}},
+        {WHERE,                CONTROL_POSITIONS_OK,     OKS,       {STATE_TURN}},
+        {RACES,                raceListNames(),          "",        {SAME, SETUP | LIST}},
+        {CHOSEN,               raceListNames(),          "",        {SAME, NOTHING, SETUP}},
+        {RACES | CHOSEN,       CONTROL_LIST_PREVIOUS,    "",        {SAME, LIST}},
+        {RACES | CHOSEN,       CONTROL_LIST_NEXT,        "",        {SAME, LIST}},
+        {RACES | CHOSEN,       CONTROL_LIST_BACK,        "zbrt",    {STATE_MAIN_MENU}},
+        {CHOSEN,               CONTROL_LIST_OK,          "oooo",    {STATE_COURSE_SELECT, SETUP | RACE}},
+        {CHOSEN,               CONTROL_LIST_SCORECARD,   "ssss",    {STATE_RACE_STANDINGS}},
+    };
+    for (int i = 0; i < 4; ++i) {
+        acts.push_back({LANGUAGES, languageBox(i), "", {STATE_MAIN_MENU, SETTINGS | FILES}});
+        acts.push_back({TEAMS | NAMED, teamNameBox(i), "", {SAME, SETUP}});
+        acts.push_back({TEAMS | NAMED, static_cast<Control>(CONTROL_COMPUTER_1 + i), "", {SAME, RACE}});
+        acts.push_back({COURSES, courseCell(i), "", {STATE_ORDER_RESULT, RACE | COURSE}});
+        // The team in view is that of the rider on turn, in one scene of his follower.
+        const Scenes inView = i == 0 ? TABS & ~FOLLOW : i == 1 ? FOLLOW : 0;
+        acts.push_back({TABS & ~inView, static_cast<Control>(CONTROL_TAB_1 + i), "", {SAME, VIEW}});
+        acts.push_back({inView, static_cast<Control>(CONTROL_TAB_1 + i), "", {}});
+    }
+    return acts;
+}
 
 struct KeyAct {
     Scenes scenes;
-    Table<std::string_view, LANGUAGE_COUNT> keys;
+    const char* keys;
     Effect effect;
+    int language = -1; // only of this one
 };
 
-constexpr Table<std::string_view, LANGUAGE_COUNT> everywhere(std::string_view keys)
-{
-    return {{keys, keys, keys, keys}};
-}
-
-constexpr std::string_view NAME_KEYS =
+constexpr const char* NAME_KEYS =
     "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789 -\t\r\b\x7f"
     "\xC0\xC1\xC2\xC3\xC4\xC5\xC6\xC7\xC8\xC9\xCA\xCB\xCC\xCD\xCE\xCF\xD0\xD1\xD2\xD3\xD4\xD5\xD6"
     "\xD8\xD9\xDA\xDB\xDC\xDD\xDE\xDF\xE0\xE1\xE2\xE3\xE4\xE5\xE6\xE7\xE8\xE9\xEA\xEB\xEC\xED\xEE"
     "\xEF\xF0\xF1\xF2\xF3\xF4\xF5\xF6\xF8\xF9\xFA\xFB\xFC\xFD\xFE\xFF";
 
-// A key that stands in two rows of a state does both, in this order.
+// Keys that are no control's.
 const KeyAct KEY_ACTS[] = {
-//   where                German English French Dutch     what happens
-    {MENU,                {{"sS", "sS", "cC", "sS"}},     {STATE_TEAM_SETUP}},
-    {MENU,                {{"aA", "mM", "nN", "hH"}},     {STATE_MANUAL}},
-    {MENU,                {{"eE", "tT", "pP", "iI"}},     {STATE_SETTINGS}},
-    {MENU,                {{"pP", "lL", "hH", "tT"}},     {STATE_LANGUAGE}},
-    {MENU,                {{"wW", "cC", "tT", "vV"}},     {STATE_RACE_FILES, NOTHING, LIST}},
-    {MENU,                {{"bB", "eE", "fF", "eE"}},     {SAME, PROGRAM}},
-    {MANUAL,              everywhere("\r "),              {SAME, PAGE}},
-    {MANUAL,              everywhere("\x1boO"),           {STATE_MAIN_MENU}},
-    {OPTIONS,             everywhere("\t\r\b\1770123456789"), {SAME, SETTINGS}},
-    {TEAMS | NAMED,       everywhere(NAME_KEYS),          {SAME, SETUP}},
-    {MESSAGE,             everywhere("\r oO"),            {STATE_TEAM_SETUP}},
-    {COURSES,             {{"nN", "cC", "cC", "nN"}},     {STATE_COURSE_DESIGN}},
-    {COURSES,             {{"gG", "uU", "uU", "oO"}},     {STATE_COURSE_SAVED, COURSE}},
-    {COURSES,             {{"zZ", "bB", "rR", "tT"}},     {STATE_TEAM_SETUP}},
-    {DESIGN,              {{"hH", "aA", "aA", "tT"}},     {SAME, COURSE}},
-    {DESIGN | DESIGNED,   {{"vV", "pP", "pP", "vV"}},     {SAME, COURSE}},
-    {DESIGNED,            everywhere("\r oO"),            {STATE_ORDER_RESULT, RACE | COURSE}},
-    {THROW,               {{"wW", "tT", "jJ", "gG"}},     {STATE_ORDER_RESULT, RACE}},
-    {RESULT,              {{"nN", "nN", "uU", "vV"}},     {SAME, RACE}},
-    {TURN | CARD | DOPED, {{"wW", "tT", "jJ", "gG"}},     {STATE_MOVE, RACE}},
-    {CARD | DOPED,        {{"aA", "bB", "dD", "dD"}},     {SAME, RACE}},
-    {TURN | CARD,         {{"dD", "dD", "oO", "oO"}},     {STATE_CONFIRM_DOPING}},
-    {DOPING,              {{"jJ", "yY", "oO", "jJ"}},     {STATE_DOPING_NUMBER, RACE}},
-    {DOPING,              everywhere("nN"),               {STATE_TURN}},
-    {NUMBER,              everywhere("\r oO"),            {STATE_TURN, RACE}},
-    {EVENT,               everywhere("\r oO"),            {STATE_SKIP_HANDIN, RACE}},
-    {KIND,                {{"bB", "bB", "eE", "bB"}},     {STATE_EVENT_CARD_WHEN, RACE}},
-    {KIND,                {{"wW", "wW", "aA", "wW"}},     {STATE_EVENT_CARD_WHEN, RACE}},
-    {WHEN,                {{"", "iI", "tT", "dD"}},       {STATE_MOVE, RACE}},
-    {WHEN,                {{"", "lL", "pP", "lL"}},       {STATE_MOVE, RACE}},
-    {WHEN,                {{"", "", "pP", ""}},           {STATE_POSITIONS}}, // both of its meanings
-    {EXTRA_DIE,           {{"wW", "tT", "jJ", "gG"}},     {STATE_MOVE, RACE}},
-    {NO_CARD,             everywhere("\r oO"),            {STATE_MOVE}},
-    {PAY,                 everywhere("\r oO"),            {STATE_MOVE, RACE}},
-    {MISS | MISS_ALL,     everywhere("\r oO"),            {STATE_TURN, RACE | VIEW}},
-    {DRAW,                everywhere("\r oO"),            {STATE_DOPING_COUNTERCHECK, RACE}},
-    {CHECK,               everywhere("\r oO"),            {SAME, RACE}},
-    {NOT_SAVED,           everywhere("aA"),               {STATE_FINAL_SCORECARD}},
-    {OVERLAYS,            everywhere("\r oO"),            {STATE_TURN}},
-    {SAVED_SHEET,         everywhere("\r oO"),            {STATE_RACE_FILES}},
-    {FINAL | SHEETS,      everywhere("xX"),               {SAME, VIEW | FILES}},
-    {SHEET | SAVED_SHEET, {{"gG", "gG", "gG", "tT"}},     {SAME, VIEW}},
-    {GENERAL,             {{"eE", "sS", "eE", "eE"}},     {SAME, VIEW}},
-    {RACES | CHOSEN,      {{"zZ", "bB", "rR", "tT"}},     {STATE_MAIN_MENU}},
-    {CHOSEN,              everywhere("oO"),               {STATE_COURSE_SELECT, SETUP | RACE}},
-    {CHOSEN,              everywhere("sS"),               {STATE_RACE_STANDINGS}},
-    {PLACE,               everywhere("\r "),              {SAME, RACE}},
-    {MOVE,                everywhere("\r "),              {STATE_TURN, RACE}},
-    {MOVE,                everywhere("uU"),               {SAME, RACE}},
-    {FOLLOW,              {{"jJ", "yY", "oO", "jJ"}},     {STATE_TURN, RACE | VIEW}},
-    {FOLLOW,              everywhere("nN"),               {STATE_TURN, RACE}},
-    {NO_MOVE,             everywhere("\r oO"),            {STATE_TURN, RACE | VIEW}},
-    {QUIT,                {{"jJ", "yY", "oO", "jJ"}},     {STATE_MAIN_MENU}},
-    {QUIT,                everywhere("nN"),               {STATE_ORDER_RESULT}},
-    {FINAL,               {{"uU", "qQ", "qQ", "tT"}},     {STATE_MAIN_MENU}},
-    {PANEL,               {{"uU", "qQ", "qQ", "tT"}},     {STATE_CONFIRM_QUIT}},
-    {PANEL,               {{"eE", "eE", "aA", "iI"}},     {STATE_SETTINGS}},
-    {PANEL,               everywhere("sS"),               {STATE_SCORECARD}},
-    {PANEL,               everywhere("pP"),               {STATE_POSITIONS}},
-    {TABS,                everywhere("\t"),               {SAME, VIEW}},
+    {MANUAL,        "\r ",                    {SAME, PAGE}},
+    {MANUAL,        "\x1b",                   {STATE_MAIN_MENU}},
+    {OPTIONS,       "\t\r\b\1770123456789",   {SAME, SETTINGS}},
+    {TEAMS | NAMED, NAME_KEYS,                {SAME, SETUP}},
+    {PLACE,         "\r ",                    {SAME, RACE}},
+    {MOVE,          "\r ",                    {STATE_TURN, RACE}},
+    {MOVE,          "uU",                     {SAME, RACE}},
+    {TABS,          "\t",                     {SAME, VIEW}},
+    {WHEN,          "pP",                     {STATE_POSITIONS}, LANGUAGE_FRENCH}, // both of its meanings
 };
 
 struct SpecialAct {
@@ -334,11 +290,6 @@ template <typename T> std::string bytesOf(const T& record)
     return {reinterpret_cast<const char*>(&record), sizeof record};
 }
 
-template <typename T> void takeBytes(T& record, const std::string& bytes)
-{
-    std::memcpy(&record, bytes.data(), sizeof record);
-}
-
 std::uintmax_t sizeOfFiles()
 {
     std::uintmax_t size = 0;
@@ -347,85 +298,46 @@ std::uintmax_t sizeOfFiles()
     return size;
 }
 
-// Everything that input can change.
-struct World {
-    GameState state = gameState;
-    GameState goesBackTo = returnState;
-    std::string raceBytes = bytesOf(race);
-    std::string occupants = bytesOf(course.courseOccupant);
-    RaceSetup setup = raceSetup;
-    TeamSetup setupFields = teamSetup;
-    Settings chosen = settings;
-    Settings backup = settingsBackup;
-    SettingsScreen settingsFields = settingsScreen;
-    std::string courseLetters = courseText;
-    CourseScreens screens = courseScreens;
-    int races = static_cast<int>(raceList.raceFileList.size());
-    int listPage = raceList.raceListPage;
-    RaceHead preview = racePreview;
-    View seen = view;
-    int page = manualPage;
-    int quits = fakeHost.quits;
-    int timer = fakeHost.pendingMs;
-    std::uintmax_t files = sizeOfFiles();
-};
-
-auto setupOf(const World& world)
-{
-    const RaceSetup& race = world.setup;
-    const TeamSetup& fields = world.setupFields;
-    return std::tuple(race.teamName, race.multiStage, race.eventCardsOn, race.raceName,
-                      race.raceFileName, race.raceBaseName, race.standingsFileName,
-                      race.raceStages.size(), fields.teamActiveField, fields.teamCursor,
-                      fields.setupMessages);
-}
-
-auto settingsOf(const World& world)
-{
-    const SettingsScreen& fields = world.settingsFields;
-    return std::tuple(world.chosen, fields.settingsFieldText, fields.settingsActiveField,
-                      fields.settingsCursor);
-}
-
-auto courseOf(const World& world)
-{
-    return std::tuple(world.courseLetters, world.screens);
-}
-
-auto listOf(const World& world)
-{
-    return std::tie(world.races, world.listPage, world.preview.eventCardsOn, world.preview.teamName,
-                    world.preview.isHuman);
-}
-
 // Where a box was taken hold of is of no account once it is let go.
-auto viewOf(const World& world)
+View viewNow()
 {
-    View seen = world.seen;
+    View seen = view;
     seen.dragOffsetX = seen.dragOffsetY = 0;
     return seen;
 }
 
-unsigned changedParts(const World& before, const World& now)
+// Everything that input can change, in the order of the parts.
+auto worldNow()
 {
-    unsigned parts = NOTHING;
-    const auto note = [&parts](bool same, Part part) { parts |= same ? NOTHING : part; };
-    note(before.raceBytes == now.raceBytes && before.occupants == now.occupants, RACE);
-    note(setupOf(before) == setupOf(now), SETUP);
-    note(settingsOf(before) == settingsOf(now), SETTINGS);
-    note(courseOf(before) == courseOf(now), COURSE);
-    note(viewOf(before) == viewOf(now), VIEW);
-    note(listOf(before) == listOf(now), LIST);
-    note(before.page == now.page, PAGE);
-    note(before.quits == now.quits, PROGRAM);
-    note(before.files == now.files, FILES);
-    return parts;
+    const RaceSetup& r = raceSetup;
+    const SettingsScreen& s = settingsScreen;
+    return std::tuple(
+        std::tuple(bytesOf(race), bytesOf(course.courseOccupant)),
+        std::tuple(r.teamName, r.multiStage, r.eventCardsOn, r.raceName, r.raceFileName,
+                   r.raceBaseName, r.standingsFileName, r.raceStages.size(),
+                   teamSetup.teamActiveField, teamSetup.teamCursor, teamSetup.setupMessages),
+        std::tuple(settings, s.settingsFieldText, s.settingsActiveField, s.settingsCursor),
+        std::tuple(courseText, courseScreens), viewNow(), manualPage, fakeHost.quits, sizeOfFiles(),
+        std::tuple(raceList.raceFileList.size(), raceList.raceListPage, racePreview.eventCardsOn,
+                   racePreview.teamName, racePreview.isHuman));
+}
+
+using World = decltype(worldNow());
+
+template <std::size_t... I>
+unsigned changedParts(const World& before, const World& now, std::index_sequence<I...>)
+{
+    return ((std::get<I>(before) == std::get<I>(now) ? 0u : 1u << I) | ...);
 }
 
 class Walk
 {
 public:
-    Walk(Scene walked, int inLanguage) : scene(walked), language(inLanguage) { begin(); }
+    Walk(Scene walked, int inLanguage)
+        : scene(walked), language(inLanguage), onPress(pressActs()), onRelease(releaseActs())
+    {
+        begin();
+    }
 
     void tryKeys()
     {
@@ -444,18 +356,40 @@ public:
         player.held = 0;
     }
 
-    void tryControl(const char* name, const Rect& at)
+    void tryPlace(int number, const Rect& at)
     {
-        attempt(name, effectAt(at), [&] {
+        const std::string place = " in place " + std::to_string(number);
+        Effect clicked = effectAt(onPress, at);
+        Effect pressed = clicked;
+        pressed.mayChange = SETTINGS | COURSE; // by the pointer getting there
+        attempt("press" + place, pressed, [&] {
+            player.hover(at);
+            player.press(at);
+            view.dragActive = false;
+        });
+        add(clicked, effectAt(onRelease, at));
+        attempt("click" + place, clicked, [&] {
             player.hover(at);
             player.click(at);
         });
-        const bool camera = (bit(scene) & LOOK) && isMiddleIn(at, cameraButton());
-        attempt(std::string("right click on ") + name, {SAME, camera ? VIEW : NOTHING},
-                [&] { player.rightClick(at); });
-        for (const int button : {GLUT_MIDDLE_BUTTON, 3, 4, 5})
-            attempt("button " + std::to_string(button) + " on " + name, {},
-                    [&] { clickWith(button, at); });
+        const bool camera = (bit(scene) & LOOK) && isMiddleIn(at, placeOf(CONTROL_CAMERA));
+        for (const int button : {GLUT_MIDDLE_BUTTON, GLUT_RIGHT_BUTTON, 3, 4, 5})
+            attempt("button " + std::to_string(button) + place,
+                    {SAME, camera && button == GLUT_RIGHT_BUTTON ? VIEW : NOTHING},
+                    [&] { player.click(at, button); });
+    }
+
+    // What is live is drawn bright, and nothing else.
+    void lookAtControls()
+    {
+        for (int i = 0; i < CONTROL_COUNT; ++i) {
+            const auto acts = [&](const Act& act) {
+                return act.spot.control == i && (act.scenes & bit(scene));
+            };
+            EXPECT_EQ(isLive(static_cast<Control>(i)),
+                      std::ranges::any_of(onPress, acts) || std::ranges::any_of(onRelease, acts))
+                << nameOf(scene) << ", control " << i;
+        }
     }
 
 private:
@@ -473,21 +407,14 @@ private:
         if (scene == SCENE_LANGUAGES)
             settings.language = -1;
         courseScreens.saveFailed = false;
-        before = {};
+        before = worldNow();
+        stateBefore = gameState;
     }
 
     static bool isMiddleIn(const Rect& at, const Rect& control)
     {
         return control.contains(static_cast<int>(at.x + at.w * 0.5f),
                                 static_cast<int>(at.y + at.h * 0.5f));
-    }
-
-    static void clickWith(int button, const Rect& at)
-    {
-        const int x = layout.viewX + static_cast<int>(at.x + at.w * 0.5f);
-        const int y = layout.viewY + static_cast<int>(at.y + at.h * 0.5f);
-        onMouse(button, GLUT_DOWN, x, y);
-        onMouse(button, GLUT_UP, x, y);
     }
 
     static void add(Effect& sum, const Effect& more)
@@ -498,21 +425,39 @@ private:
         sum.mayChange |= more.mayChange;
     }
 
-    Effect effectAt(const Rect& at) const
+    Effect effectAt(const std::vector<Act>& acts, const Rect& at) const
     {
         Effect sum;
-        for (const ControlAct& act : CONTROL_ACTS)
-            if ((act.scenes & bit(scene)) && isMiddleIn(at, act.at()))
+        for (const Act& act : acts)
+            if ((act.scenes & bit(scene)) && isMiddleIn(at, act.spot.place))
                 add(sum, act.effect);
         return sum;
+    }
+
+    static bool isIn(std::string_view keys, int key)
+    {
+        return keys.find(static_cast<char>(key)) != std::string_view::npos;
+    }
+
+    bool isLetterOf(const Act& act, int key) const
+    {
+        const std::string_view letters = act.letters;
+        const int small = key >= 'A' && key <= 'Z' ? key + 'a' - 'A' : key;
+        return !letters.empty() &&
+               ((letters[static_cast<std::size_t>(language)] == small && small != ' ') ||
+                (letters == OKS && isIn("\r ", key)));
     }
 
     Effect effectOfKey(int key) const
     {
         Effect sum;
+        for (const std::vector<Act>* acts : {&onRelease, &onPress})
+            for (const Act& act : *acts)
+                if ((act.scenes & bit(scene)) && isLetterOf(act, key))
+                    add(sum, act.effect);
         for (const KeyAct& act : KEY_ACTS)
-            if ((act.scenes & bit(scene)) &&
-                act.keys[language].find(static_cast<char>(key)) != std::string_view::npos)
+            if ((act.scenes & bit(scene)) && isIn(act.keys, key) &&
+                (act.language == -1 || act.language == language))
                 add(sum, act.effect);
         return sum;
     }
@@ -529,31 +474,25 @@ private:
     {
         std::srand(11);
         act();
-        const World now;
-        const GameState to = expected.to == SAME ? before.state : expected.to;
-        const unsigned parts = changedParts(before, now);
-        const unsigned asked = parts & ~expected.mayChange;
-        EXPECT_TRUE(now.state == to && asked == expected.parts && !now.seen.dragActive)
-            << nameOf(scene) << ", language " << language << ", " << what << ": state " << now.state
-            << " where " << to << " was due, parts " << parts << " where " << expected.parts
+        const GameState to = expected.to == SAME ? stateBefore : expected.to;
+        constexpr std::make_index_sequence<std::tuple_size_v<World>> parts;
+        const unsigned changed = changedParts(before, worldNow(), parts);
+        EXPECT_TRUE(gameState == to && (changed & ~expected.mayChange) == expected.parts)
+            << nameOf(scene) << ", language " << language << ", " << what << ": state " << gameState
+            << " where " << to << " was due, parts " << changed << " where " << expected.parts
             << " were due";
-        if (now.state != before.state || parts != NOTHING)
+        if (gameState != stateBefore || changed != NOTHING)
             begin();
     }
 
     Scene scene;
     int language;
+    std::vector<Act> onPress;
+    std::vector<Act> onRelease;
     Player player;
     World before;
+    GameState stateBefore;
 };
-
-void tryControls(Walk& walk)
-{
-    for (const Named& control : CONTROLS)
-        for (int i = 0; i < control.count; ++i)
-            walk.tryControl((std::string(control.name) + " " + std::to_string(i)).c_str(),
-                            control.at(i));
-}
 
 } // namespace
 
@@ -561,12 +500,15 @@ TEST(Walk, NothingActsButWhatTheTablesName)
 {
     const OwnFolder folder;
     startProgram(640, 512);
+    const std::vector<Rect> places = everyPlace();
     for (int language = 0; language < LANGUAGE_COUNT; ++language)
         for (int scene = 0; scene < SCENE_COUNT; ++scene) {
             Walk walk(static_cast<Scene>(scene), language);
+            walk.lookAtControls();
             walk.tryKeys();
             if (language == LANGUAGE_ENGLISH) // controls lie where they lie
-                tryControls(walk);
+                for (std::size_t i = 0; i < places.size(); ++i)
+                    walk.tryPlace(static_cast<int>(i), places[i]);
         }
     settings = {};
     loadTexts();

@@ -1,6 +1,9 @@
 #include "ui/layout.h"
 
 #include "app/settings.h"
+#include "race/race_state.h"
+#include "screen/support/player.h"
+#include "ui/places.h"
 
 #include <gtest/gtest.h>
 
@@ -41,31 +44,88 @@ protected:
     }
 };
 
-using DrawingArea = LayoutTest;
-using Ratio = LayoutTest;
-using Metrics = LayoutTest;
-using Dragging = LayoutTest;
+// Controls that stand on one screen may touch, but no two of them may be hit by the same click.
+// Those in the very same place take turns.
+void expectClear(const std::vector<Rect>& places)
+{
+    for (std::size_t i = 0; i < places.size(); ++i) {
+        const Rect& one = places[i];
+        EXPECT_TRUE(one.x >= 0.0f && one.y >= 0.0f) << i;
+        EXPECT_TRUE(one.x + one.w <= static_cast<float>(layout.viewW) &&
+                    one.y + one.h <= static_cast<float>(layout.viewH))
+            << i;
+        for (std::size_t k = 0; k < i; ++k)
+            EXPECT_TRUE(!overlap(one, places[k]) || (one.x == places[k].x && one.y == places[k].y))
+                << k << " and " << i;
+    }
+}
 
-TEST_F(DrawingArea, TakesTheRatioOfTheWindowOrTheNearestOne)
+// The controls of a screen, and what else lies on it.
+std::vector<Rect> placesOf(int first, int last, std::vector<Rect> others = {})
+{
+    for (int control = first; control <= last; ++control)
+        others.push_back(placeOf(static_cast<Control>(control)));
+    return others;
+}
+
+std::vector<Rect> row(Rect (*place)(int), int count)
+{
+    std::vector<Rect> all;
+    for (int i = 0; i < count; ++i)
+        all.push_back(place(i));
+    return all;
+}
+
+} // namespace
+
+TEST_F(LayoutTest, ControlsLieInTheDrawingAreaAndClearOfEachOther)
+{
+    const int windows[][2] = {{1024, 768}, {1280, 960},  {1280, 1024},
+                              {1366, 768}, {1920, 1080}, {2560, 1440}};
+    for (const auto& [width, height] : windows) {
+        SCOPED_TRACE(std::to_string(width) + " by " + std::to_string(height));
+        store(-1.0, -1.0);
+        computeLayout(width, height);
+        std::vector<Rect> panel = row(cardPlace, CARD_SLOT_COUNT);
+        for (const Rect& place :
+             {dicePlace(0), dicePlace(1), handInSlot(0), handInSlot(1), extraDicePlace()})
+            panel.push_back(place);
+        std::vector<Rect> fields = row(teamNameBox, TEAM_COUNT);
+        fields.push_back(raceNameBox());
+        expectClear(placesOf(CONTROL_THROW, CONTROL_CAMERA, panel));
+        expectClear(placesOf(CONTROL_QUIT_YES, CONTROL_QUIT_NO, {dialogTitleBar()}));
+        expectClear(placesOf(CONTROL_SHEET_OK, CONTROL_NEXT_STAGE));
+        expectClear(placesOf(CONTROL_START, CONTROL_EXIT));
+        expectClear(row(languageBox, LANGUAGE_COUNT));
+        expectClear(placesOf(CONTROL_MANUAL_OK, CONTROL_NEXT_PAGE, {manualFrame()}));
+        expectClear(placesOf(CONTROL_TEAM_OK, CONTROL_EVENT_CARDS, fields));
+        expectClear(placesOf(CONTROL_CREATE_COURSE, CONTROL_COURSE_BACK, row(coursePicture, 4)));
+        expectClear(placesOf(CONTROL_ADD_SECTION, CONTROL_FINISH, row(sectionRadio, 2)));
+        expectClear(placesOf(CONTROL_PREVIOUS_COURSE, CONTROL_SAVED_OK, {overviewPicture()}));
+        expectClear(placesOf(CONTROL_SETTINGS_OK, CONTROL_RATIO_1610, row(settingsField, 3)));
+        expectClear(placesOf(CONTROL_LIST_OK, CONTROL_LIST_NEXT, {raceListNames()}));
+    }
+}
+
+TEST_F(LayoutTest, TheDrawingAreaTakesTheRatioOfTheWindowOrTheNearestOne)
 {
     struct Case {
         int windowW, windowH;
         double ratioW, ratioH;
-        int viewW, viewX;
+        int viewW, viewX, viewH, viewY;
     };
     // clang-format off
     constexpr Case cases[] = {
-        // window      ratio        width   left
-        {1280, 1024,   5.0,  4.0,   1280,     0},
-        {1280,  960,   4.0,  3.0,   1200,    40},
-        {1024,  768,   4.0,  3.0,    960,    32},
-        {1680, 1050,  16.0, 10.0,   1312,   184},
-        {1920, 1080,  16.0, 10.0,   1500,   210},
-        {1366,  768,  16.0, 10.0,   1067,   149},
-        {1500, 1000,  16.0, 10.0,   1171,   164},
-        {1400, 1000,   4.0,  3.0,   1312,    44},
-        {1285, 1024,   5.0,  4.0,   1285,     0},
-        { 600,  900,   5.0,  4.0,    600,     0},
+        // window      ratio        width   left  height   top
+        {1280, 1024,   5.0,  4.0,   1280,     0,   1024,     0},
+        {1280,  960,   4.0,  3.0,   1200,    40,    960,     0},
+        {1680, 1050,  16.0, 10.0,   1312,   184,   1050,     0},
+        {1920, 1080,  16.0, 10.0,   1350,   285,   1080,     0},
+        {1366,  768,  16.0, 10.0,    960,   203,    768,     0},
+        {3440, 1440,  16.0, 10.0,   1800,   820,   1440,     0},
+        {1500, 1000,  16.0, 10.0,   1250,   125,   1000,     0},
+        {1400, 1000,   4.0,  3.0,   1250,    75,   1000,     0},
+        {1080, 1920,   5.0,  4.0,   1080,     0,    864,   528},
     };
     // clang-format on
     for (const Case& c : cases) {
@@ -76,48 +136,39 @@ TEST_F(DrawingArea, TakesTheRatioOfTheWindowOrTheNearestOne)
         EXPECT_EQ(settings.ratioH, c.ratioH);
         EXPECT_EQ(layout.viewW, c.viewW);
         EXPECT_EQ(layout.viewX, c.viewX);
-        EXPECT_EQ(layout.viewH, c.windowH);
-        EXPECT_EQ(layout.viewY, 0);
+        EXPECT_EQ(layout.viewH, c.viewH);
+        EXPECT_EQ(layout.viewY, c.viewY);
+        EXPECT_NEAR(aspectFix(), 1.0f, 0.001f);
     }
-}
-
-TEST_F(DrawingArea, RoundShapesAreNarrowerWherePixelsAreWider)
-{
-    store(4.0, 3.0);
+    store(4.0, 3.0); // pixels are wider
     computeLayout(1280, 1024);
-    EXPECT_EQ(layout.viewW, 1200);
     EXPECT_FLOAT_EQ(aspectFix(), 0.9375f);
-    computeLayout(1280, 960);
-    EXPECT_FLOAT_EQ(aspectFix(), 1.0f);
-}
-
-TEST_F(DrawingArea, AWindowWithoutAreaBreaksNothing)
-{
-    const int sizes[][2] = {{0, 0}, {0, 600}, {800, 0}, {1, 1}, {1, 3000}, {3000, 1}};
-    for (const bool stored : {false, true}) {
-        for (const auto& [width, height] : sizes) {
-            SCOPED_TRACE(std::to_string(width) + " by " + std::to_string(height));
-            store(stored ? 16.0 : -1.0, stored ? 10.0 : -1.0);
-            computeLayout(width, height);
-            EXPECT_EQ(layout.windowH, height);
-            for (const float metric : metricsOf(layout))
-                EXPECT_TRUE(std::isfinite(metric));
-            EXPECT_GE(layout.linesPerPage, 1.0f);
-        }
-    }
-}
-
-TEST_F(Ratio, AStoredOneIsKept)
-{
+    store(16.0, 10.0); // of a wider window only the middle counts
+    computeLayout(1920, 1080);
+    EXPECT_EQ(layout.viewW, 1350);
     store(5.0, 4.0);
     computeLayout(1920, 1080);
-    computeLayout(1280, 960);
-    EXPECT_EQ(settings.ratioW, 5.0);
-    EXPECT_EQ(layout.viewW, 1280);
+    EXPECT_EQ(layout.viewW, 1728);
 }
 
-TEST_F(Ratio, AnUnknownOneCountsAsNone)
+TEST_F(LayoutTest, AWindowWithoutAreaBreaksNothing)
 {
+    const int sizes[][2] = {{0, 0}, {0, 600}, {800, 0}, {1, 1}, {1, 3000}, {3000, 1}};
+    for (const double w : {-1.0, 16.0})
+        for (const auto& [width, height] : sizes) {
+            store(w, w < 0.0 ? w : 10.0);
+            computeLayout(width, height);
+            for (const float metric : metricsOf(layout))
+                EXPECT_TRUE(std::isfinite(metric)) << width << " by " << height;
+            EXPECT_GE(layout.linesPerPage, 1.0f);
+        }
+}
+
+TEST_F(LayoutTest, AStoredRatioIsKeptAndAnUnknownOneCountsAsNone)
+{
+    store(5.0, 4.0);
+    computeLayout(1280, 960);
+    EXPECT_EQ(layout.viewW, 1280);
     const double nan = std::numeric_limits<double>::quiet_NaN();
     const double unknown[][2] = {{16.0, 9.0}, {0.0, 0.0}, {5.0, -1.0}, {-1.0, 4.0}, {nan, nan}};
     for (const auto& [ratioW, ratioH] : unknown) {
@@ -128,7 +179,7 @@ TEST_F(Ratio, AnUnknownOneCountsAsNone)
     }
 }
 
-TEST_F(Ratio, TheProgramsOwnGuessFollowsTheWindow)
+TEST_F(LayoutTest, AGuessFollowsTheWindowAndAChoiceStaysEvenIfItIsTheFirstGuessAgain)
 {
     store(-1.0, -1.0);
     computeLayout(0, 0); // not yet shown: nothing to go by
@@ -137,12 +188,6 @@ TEST_F(Ratio, TheProgramsOwnGuessFollowsTheWindow)
     EXPECT_EQ(settings.ratioW, 4.0);
     computeLayout(1920, 1080); // full screen at last
     EXPECT_EQ(settings.ratioW, 16.0);
-    EXPECT_EQ(layout.viewW, 1500);
-}
-
-TEST_F(Ratio, APersonsChoiceStaysEvenIfItIsTheFirstGuessAgain)
-{
-    store(-1.0, -1.0);
     computeLayout(1280, 960);
     settings.ratioW = 5.0; // picked on the settings screen
     settings.ratioH = 4.0;
@@ -151,68 +196,37 @@ TEST_F(Ratio, APersonsChoiceStaysEvenIfItIsTheFirstGuessAgain)
     settings.ratioW = 4.0;
     settings.ratioH = 3.0;
     computeLayout(1920, 1080);
-    EXPECT_EQ(settings.ratioW, 4.0);
     EXPECT_EQ(layout.viewW, 1800);
 }
 
-TEST_F(Metrics, CardsAndLinesAreWholeTheRestKeepsItsFraction)
+// To drop a box where it stands changes nothing, and to drop it elsewhere moves its own parts
+// alone.
+TEST_F(LayoutTest, ADraggedBoxTakesItsButtonsAlongUntilTheNextLayout)
 {
-    computeLayout(1280, 1024);
-    EXPECT_EQ(layout.cardW, 54.0f);
-    EXPECT_EQ(layout.cardH, 70.0f);
-    EXPECT_EQ(layout.linesPerPage, 45.0f);
-    EXPECT_FLOAT_EQ(layout.hudY, 779.264f);
-    EXPECT_FLOAT_EQ(layout.diceX, 675.368f);
-    EXPECT_FLOAT_EQ(layout.movesLeftBoxY, 973.184f);
-    EXPECT_FLOAT_EQ(layout.boardViewH, 694.26571f);
-    EXPECT_FLOAT_EQ(layout.settingsCancelX, 711.168f);
-    EXPECT_FLOAT_EQ(layout.scorecardY, 90.268657f);
-
-    computeLayout(640, 480);
-    EXPECT_EQ(layout.linesPerPage, 19.0f);
+    using Metric = float Layout::*;
+    const auto expectMoved = [](void (*place)(float, float), const std::vector<Metric>& xs,
+                                const std::vector<Metric>& ys) {
+        store(-1.0, -1.0);
+        computeLayout(1280, 1024);
+        const Layout before = layout;
+        place(before.*xs[0], before.*ys[0]);
+        EXPECT_EQ(metricsOf(layout), metricsOf(before));
+        Layout expected = before;
+        for (const Metric x : xs)
+            expected.*x += 32.0f;
+        for (const Metric y : ys)
+            expected.*y -= 64.0f;
+        place(expected.*xs[0], expected.*ys[0]);
+        for (std::size_t i = 0; i < METRIC_COUNT; ++i)
+            EXPECT_NEAR(metricsOf(layout)[i], metricsOf(expected)[i], 0.001f) << i;
+        computeLayout(1280, 1024);
+        EXPECT_EQ(metricsOf(layout), metricsOf(before));
+    };
+    using L = Layout;
+    expectMoved(placeDialog, {&L::dialogX, &L::dialogOkX, &L::dialogLeftX, &L::dialogRightX},
+                {&L::dialogY, &L::dialogButtonY});
+    expectMoved(placeScorecard,
+                {&L::scorecardX, &L::scorecardOkX, &L::exportButtonX, &L::prevStageX,
+                 &L::nextStageX, &L::stageTitleX, &L::generalViewButtonX, &L::stageViewButtonX},
+                {&L::scorecardY, &L::scorecardBottomButtonY, &L::stageArrowY, &L::stageTitleY});
 }
-
-// The same formulas serve the layout and the drag: to drop a box where it stands changes nothing,
-// and to drop it elsewhere moves its own parts alone.
-TEST_F(Dragging, MovesTheDialogAndItsButtonsUntilTheNextLayout)
-{
-    computeLayout(1280, 1024);
-    const Layout before = layout;
-    placeDialog(before.dialogX, before.dialogY);
-    EXPECT_EQ(metricsOf(layout), metricsOf(before));
-
-    placeDialog(before.dialogX + 32.0f, before.dialogY - 64.0f);
-    Layout expected = before;
-    for (float* x :
-         {&expected.dialogX, &expected.dialogOkX, &expected.dialogLeftX, &expected.dialogRightX})
-        *x += 32.0f;
-    for (float* y : {&expected.dialogY, &expected.dialogButtonY})
-        *y -= 64.0f;
-    for (std::size_t i = 0; i < METRIC_COUNT; ++i)
-        EXPECT_NEAR(metricsOf(layout)[i], metricsOf(expected)[i], 0.001f) << i;
-
-    computeLayout(1280, 1024);
-    EXPECT_EQ(metricsOf(layout), metricsOf(before));
-}
-
-TEST_F(Dragging, MovesTheScorecardAndItsButtons)
-{
-    computeLayout(1280, 1024);
-    const Layout before = layout;
-    placeScorecard(before.scorecardX, before.scorecardY);
-    EXPECT_EQ(metricsOf(layout), metricsOf(before));
-
-    placeScorecard(before.scorecardX - 128.0f, before.scorecardY + 16.0f);
-    Layout expected = before;
-    for (float* x : {&expected.scorecardX, &expected.scorecardOkX, &expected.exportButtonX,
-                     &expected.prevStageX, &expected.nextStageX, &expected.stageTitleX,
-                     &expected.generalViewButtonX, &expected.stageViewButtonX})
-        *x -= 128.0f;
-    for (float* y : {&expected.scorecardY, &expected.scorecardBottomButtonY, &expected.stageArrowY,
-                     &expected.stageTitleY})
-        *y += 16.0f;
-    for (std::size_t i = 0; i < METRIC_COUNT; ++i)
-        EXPECT_NEAR(metricsOf(layout)[i], metricsOf(expected)[i], 0.001f) << i;
-}
-
-} // namespace

@@ -11,58 +11,27 @@
 namespace
 {
 
-std::vector<int> bitsOf(const Glyph& glyph)
-{
-    const int bytes = (glyph.width + 7) / 8 * glyph.height;
-    return {glyph.bits.begin(), glyph.bits.begin() + bytes};
-}
-
 TEST(Measuring, QuotesTakeNoWidthAndOtherFontsCountCharacters)
 {
     EXPECT_EQ(textWidth("Throw", FONT_BODY), 7 + 7 + 4 + 7 + 9);
     EXPECT_EQ(textWidth("\"Throw\"", FONT_BODY), textWidth("Throw", FONT_BODY));
-    EXPECT_EQ(textWidth("\"OK\"", FONT_TITLE), 15 + 13);
-    EXPECT_EQ(textWidth("\"OK\"", FONT_FIXED), 24);
     EXPECT_EQ(textWidth("iiii", FONT_SERIF), 24);
-}
-
-TEST(Measuring, EveryLetterHasAWidth)
-{
     EXPECT_EQ(titleWidths[0xC0], titleWidths[0xC4]);
     EXPECT_EQ(titleWidths[0xC8], titleWidths['E']); // listed nowhere: as the letter drawn for it
     for (int code = 0x80; code < 0x100; ++code) {
         EXPECT_GT(bodyWidths[code], 0) << code;
         EXPECT_GT(titleWidths[code], 0) << code;
     }
+    EXPECT_EQ(cutToWidth("Throw", 34.0f), "Throw");
+    EXPECT_EQ(cutToWidth("ThrowThrow", 34.0f), "Thro...");
 }
 
-TEST(Glyphs, ArePackedFromTheBottomRowWithTheLeftPixelFirst)
-{
-    const Glyph* grave = findGlyph(0xE0, FONT_BODY);
-    ASSERT_NE(grave, nullptr);
-    EXPECT_EQ(bitsOf(*grave),
-              (std::vector<int>{0x74, 0x88, 0x88, 0x78, 0x08, 0x88, 0x70, 0, 0x20, 0x40, 0, 0}));
-
-    const Glyph* sharpS = findGlyph(0xDF, FONT_TITLE); // two bytes a row
-    ASSERT_NE(sharpS, nullptr);
-    EXPECT_EQ(sharpS->width, 11);
-    EXPECT_EQ(sharpS->height, 14);
-    const std::vector<int> bits = bitsOf(*sharpS);
-    EXPECT_EQ(std::vector<int>(bits.begin(), bits.begin() + 4),
-              (std::vector<int>{0xE7, 0x80, 0xE7, 0xC0}));
-    EXPECT_EQ(std::vector<int>(bits.end() - 2, bits.end()), (std::vector<int>{0x7F, 0}));
-}
-
-TEST(Glyphs, OnlyACedillaHangsBelowTheLine)
+// Only a cedilla hangs below the line.
+TEST(Glyphs, StandOnTheLineAndAHighCodeWithoutOneFallsBackToASafeLetter)
 {
     EXPECT_EQ(findGlyph(0xE7, FONT_TITLE)->origin.y, 3);
-    EXPECT_EQ(findGlyph(0xE7, FONT_SERIF)->origin.y, 3);
     EXPECT_EQ(findGlyph(0xE9, FONT_TITLE)->origin.y, 0);
     EXPECT_EQ(findGlyph(0xE7, FONT_BODY), nullptr);
-}
-
-TEST(Glyphs, AHighCodeWithoutOneFallsBackToASafeLetter)
-{
     EXPECT_EQ(baseLetter(0xD6), 'O');
     EXPECT_EQ(baseLetter(0xE7), 'c');
     EXPECT_EQ(baseLetter(0x80), '?');
@@ -179,31 +148,6 @@ TEST(Pages, LoseNothingAndEndForEverySize)
             }
             ASSERT_EQ(drawn, letters) << lines << " lines of " << width;
         }
-}
-
-TEST(Pages, FollowTheLayoutWithoutABound)
-{
-    const Layout before = layout;
-    const std::string textBefore = manualText;
-    layout = {.viewW = 400, .linesPerPage = 9.0f};
-    std::string text;
-    for (int i = 0; i < 200; ++i)
-        text += "line<l>";
-    setManual(text);
-    EXPECT_EQ(manualPageCount, 20); // ten lines each, and more pages than any manual needs
-
-    manualPage = 19;
-    layout.linesPerPage = 49.0f;
-    paginateManual();
-    EXPECT_EQ(manualPageCount, 4);
-    EXPECT_EQ(manualPage, 3); // the page that was shown is no more
-
-    layout.viewW = 0;
-    paginateManual();
-    EXPECT_EQ(manualPageCount, 1);
-    layout = before;
-    manualPage = 0;
-    setManual(textBefore);
 }
 
 } // namespace

@@ -6,8 +6,11 @@
 #include <GL/gl.h>
 
 static std::vector<DrawnText>* noting = nullptr;
+static bool boxed = false;
 
-// drawText, by the name that the linker knows it by.
+// The two by the names that the linker knows them by.
+extern "C" void __real__Z13drawDialogBoxffff(float x, float y, float w, float h);
+extern "C" void __wrap__Z13drawDialogBoxffff(float x, float y, float w, float h);
 #define LINKED(name) name##_Z8drawTextff5AlignSt17basic_string_viewIcSt11char_traitsIcEE4Font
 extern "C" void LINKED(__real_)(float x, float y, Align align, std::string_view text, Font font);
 extern "C" void LINKED(__wrap_)(float x, float y, Align align, std::string_view text, Font font);
@@ -27,12 +30,19 @@ extern "C" void LINKED(__wrap_)(float x, float y, Align align, std::string_view 
     noting->push_back({std::string(text),
                        {left, y + 3.0f - height, width, height},
                        pixelOf({colour[0], colour[1], colour[2]}),
-                       font});
+                       boxed});
+}
+
+extern "C" void __wrap__Z13drawDialogBoxffff(float x, float y, float w, float h)
+{
+    boxed = true;
+    __real__Z13drawDialogBoxffff(x, y, w, h);
 }
 
 std::vector<DrawnText> drawnTexts()
 {
     std::vector<DrawnText> texts;
+    boxed = false;
     noting = &texts;
     drawFrame();
     noting = nullptr;

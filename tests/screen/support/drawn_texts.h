@@ -1,18 +1,18 @@
 #pragma once
 
 #include "screen/support/gl_window.h"
-#include "ui/fonts.h"
 
 #include <string>
 #include <vector>
 
-// What the screen says. The test program is linked so that every drawText is noted on its way.
+// What the screen says. The test program is linked so that every drawText and drawDialogBox is
+// noted on its way.
 
 struct DrawnText {
     std::string words;
     Rect place; // from its left end, as high as a capital letter
     Pixel colour;
-    Font font;
+    bool onBox; // of the dialog or the score sheet, which lie on top
 };
 
 // Paints a frame and tells its texts, in the order in which they were drawn.

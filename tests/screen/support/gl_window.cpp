@@ -8,21 +8,25 @@
 #include "board/course.h"
 #include "board/designer.h"
 #include "board/rider_motion.h"
+#include "race/event_deck.h"
 #include "race/race_state.h"
 #include "store/race_file.h"
 #include "support/fake_host.h"
 #include "ui/frame.h"
 #include "ui/layout.h"
 #include "ui/loading.h"
+#include "ui/manual_pages.h"
 #include "ui/matrices.h"
 #include "ui/race_list.h"
 #include "ui/reshape.h"
+#include "ui/settings_screen.h"
 #include "ui/team_setup.h"
 #include "ui/texts.h"
 #include "ui/textures.h"
 
 #include <GL/freeglut.h>
 #include <GL/glext.h>
+#include <gtest/gtest.h>
 
 #include <cstdio>
 #include <cstdlib>
@@ -41,7 +45,7 @@ static void loadPictures()
     std::filesystem::current_path(here);
 }
 
-void openTestWindow(int* argc, char** argv)
+static void openTestWindow(int* argc, char** argv)
 {
     glutInit(argc, argv);
     glutInitDisplayMode(GLUT_DOUBLE | GLUT_DEPTH);
@@ -75,9 +79,11 @@ void resizeScreen(int width, int height)
     onReshape(width, height);
 }
 
-static void forgetEverything()
+void forgetEverything()
 {
+    installFakeHost();
     settings = {};
+    settingsScreen = {};
     ratioChosenByProgram = false;
     raceSetup = {};
     teamSetup = {};
@@ -87,16 +93,17 @@ static void forgetEverything()
     courseText.clear();
     courseScreens = {};
     race = {};
+    deck = {};
     view = {};
     motion = {};
+    manualPage = 0;
     returnState = STATE_TRANSIT;
 }
 
 void startProgram(int width, int height)
 {
-    installFakeHost();
-    host.redraw = drawFrame;
     forgetEverything();
+    host.redraw = drawFrame;
     windowOpen = true;
     loadTexts();
     gameState = STATE_LOADING;
@@ -169,4 +176,11 @@ ScreenPoint seenAt(float boardX, float boardY)
     gluProject(static_cast<double>(boardX), static_cast<double>(boardY), 0.0, modelview.begin(),
                matrices.projectionMatrices[view.cameraIndex].begin(), viewport, &x, &y, &z);
     return {static_cast<int>(x), layout.windowH - 1 - static_cast<int>(y)};
+}
+
+int main(int argc, char** argv)
+{
+    testing::InitGoogleTest(&argc, argv);
+    openTestWindow(&argc, argv);
+    return RUN_ALL_TESTS();
 }

@@ -9,14 +9,15 @@
 // One small GLUT window for all tests, and behind it a screen of any size into which frames are
 // painted, so that no window manager has a say in it.
 
-void openTestWindow(int* argc, char** argv);
-
 // Gives the screen another size and reports it to the program, as a window would.
 void resizeScreen(int width, int height);
 
 // A program that has just started, with English texts and no race, on the main menu of a screen of
 // this size. The timer is the fake host's; whatever the rules want painted is painted.
 void startProgram(int width, int height);
+
+// All of that but the screen: no race, no names, nothing chosen, the fake host answering.
+void forgetEverything();
 
 struct Pixel {
     int red, green, blue;

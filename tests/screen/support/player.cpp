@@ -1,61 +1,12 @@
 #include "screen/support/player.h"
 
-#include "app/game_state.h"
 #include "input/keyboard.h"
 #include "input/mouse.h"
-#include "screen/support/old_places.h"
+#include "race/race_state.h"
 #include "ui/layout.h"
+#include "ui/places.h"
 
 #include <GL/freeglut.h>
-#include <gtest/gtest.h>
-
-struct NamedControl {
-    std::string_view label;
-    GameState state; // STATE_COUNT: any other
-    Rect (*at)();
-};
-
-constexpr GameState ANY = static_cast<GameState>(STATE_COUNT);
-
-// The first row whose label and state fit is the control meant.
-// clang-format off
-constexpr NamedControl NAMED_CONTROLS[] = {
-    {"Start",       ANY,                    menuStartButton},
-    {"Continue",    ANY,                    menuContinueButton},
-    {"Single stage", ANY,                   singleStageRadio},
-    {"OK",          STATE_TEAM_SETUP,       teamOkButton},
-    {"OK",          STATE_SKIP_HANDIN,      handInOkButton},
-    {"OK",          STATE_EVENT_HANDIN,     handInOkButton},
-    {"OK",          STATE_RACE_FILES,       listOkButton},
-    {"OK",          STATE_POSITIONS,        positionsOkButton},
-    {"OK",          STATE_SCORECARD,        scorecardOkButton},
-    {"OK",          STATE_RACE_STANDINGS,   scorecardOkButton},
-    {"OK",          ANY,                    dialogOkButton},
-    {"Back",        ANY,                    cornerButton},
-    {"Exit",        STATE_MAIN_MENU,        exitButton},
-    {"Throw",       STATE_EVENT_DIE,        extraThrowButton},
-    {"Throw",       ANY,                    throwButton},
-    {"Next",        ANY,                    throwButton},
-    {"Breakaway",   ANY,                    breakawayBox},
-    {"Quit",        STATE_FINAL_SCORECARD,  scorecardOkButton},
-    {"Quit",        ANY,                    quitButton},
-    {"Scorecard",   STATE_RACE_FILES,       listScorecardButton},
-    {"Scorecard",   ANY,                    scorecardButton},
-    {"Positions",   ANY,                    positionsButton},
-    {"Doping",      ANY,                    dopingButton},
-    {"Export",      ANY,                    exportButton},
-    {"Yes",         ANY,                    dialogLeftButton},
-    {"No",          ANY,                    dialogRightButton},
-    {"Blue",        ANY,                    dialogLeftButton},
-    {"White",       ANY,                    dialogRightButton},
-    {"Immediately", ANY,                    dialogLeftButton},
-    {"Later",       ANY,                    dialogRightButton},
-    {"Retry",       ANY,                    dialogLeftButton},
-    {"Abort",       ANY,                    dialogRightButton},
-    {"2D/3D",       ANY,                    viewToggle},
-    {"Camera",      ANY,                    cameraButton},
-};
-// clang-format on
 
 static int windowX(float x)
 {
@@ -68,6 +19,7 @@ static int windowY(float y)
 }
 
 static int now = 0; // ms
+static int heldNow = 0;
 
 void Player::press(float x, float y)
 {
@@ -81,43 +33,48 @@ void Player::release(float x, float y)
     onMouse(GLUT_LEFT_BUTTON, GLUT_UP, windowX(x), windowY(y));
 }
 
+void Player::press(const Rect& at)
+{
+    press(at.x + at.w * 0.5f, at.y + at.h * 0.5f);
+}
+
+void Player::release(const Rect& at)
+{
+    release(at.x + at.w * 0.5f, at.y + at.h * 0.5f);
+}
+
+void Player::hold(int ms)
+{
+    now += ms;
+}
+
 void Player::dragTo(float x, float y)
 {
     onDrag(windowX(x), windowY(y));
 }
 
-void Player::click(const Rect& at)
+void Player::click(const Rect& at, int button)
 {
-    const float x = at.x + at.w * 0.5f;
-    const float y = at.y + at.h * 0.5f;
-    press(x, y);
-    release(x, y);
-}
-
-void Player::doubleClick(const Rect& at)
-{
-    click(at);
-    now -= pace - 90;
-    click(at);
-}
-
-void Player::rightClick(const Rect& at)
-{
-    const int x = windowX(at.x + at.w * 0.5f);
-    const int y = windowY(at.y + at.h * 0.5f);
-    onMouse(GLUT_RIGHT_BUTTON, GLUT_DOWN, x, y);
-    onMouse(GLUT_RIGHT_BUTTON, GLUT_UP, x, y);
-}
-
-void Player::click(std::string_view label)
-{
-    for (const NamedControl& control : NAMED_CONTROLS) {
-        if (control.label == label && (control.state == gameState || control.state == ANY)) {
-            click(control.at());
-            return;
-        }
+    if (button == GLUT_LEFT_BUTTON) {
+        press(at);
+        release(at);
+        return;
     }
-    ADD_FAILURE() << "no control " << label << " in state " << gameState;
+    for (const int pressed : {GLUT_DOWN, GLUT_UP})
+        onMouse(button, pressed, windowX(at.x + at.w * 0.5f), windowY(at.y + at.h * 0.5f));
+}
+
+void Player::click(std::initializer_list<Control> controls)
+{
+    for (const Control control : controls)
+        click(control);
+}
+
+void Player::doubleClick(Control control)
+{
+    click(control);
+    now -= pace - 90;
+    click(control);
 }
 
 void Player::hover(const Rect& at)
@@ -125,18 +82,57 @@ void Player::hover(const Rect& at)
     onHover(windowX(at.x + at.w * 0.5f), windowY(at.y + at.h * 0.5f));
 }
 
-static int heldNow = 0;
-
-void Player::key(char character)
+static void holdModifiers(int held)
 {
     heldNow = held;
     heldModifiers = [] { return heldNow; };
-    onKeyUp(static_cast<unsigned char>(character), 0, 0);
 }
 
-void Player::special(int glutKey)
+void Player::press(char key)
 {
-    heldNow = held;
-    heldModifiers = [] { return heldNow; };
-    onSpecialUp(glutKey, 0, 0);
+    holdModifiers(held);
+    onKeyDown(static_cast<unsigned char>(key), 0, 0);
+}
+
+void Player::type(std::string_view keys)
+{
+    holdModifiers(held);
+    for (const char key : keys)
+        onKeyUp(static_cast<unsigned char>(key), 0, 0);
+}
+
+void Player::special(std::initializer_list<int> glutKeys)
+{
+    holdModifiers(held);
+    for (const int key : glutKeys)
+        onSpecialUp(key, 0, 0);
+}
+
+bool overlap(const Rect& a, const Rect& b)
+{
+    constexpr float TOUCH = 0.01f;
+    return a.x + a.w > b.x + TOUCH && b.x + b.w > a.x + TOUCH && a.y + a.h > b.y + TOUCH &&
+           b.y + b.h > a.y + TOUCH;
+}
+
+std::vector<Rect> everyPlace()
+{
+    std::vector<Rect> all;
+    for (int control = 0; control < CONTROL_COUNT; ++control)
+        all.push_back(placeOf(static_cast<Control>(control)));
+    const auto add = [&all](Rect (*place)(int), int count) {
+        for (int i = 0; i < count; ++i)
+            all.push_back(place(i));
+    };
+    add(cardPlace, CARD_SLOT_COUNT);
+    for (Rect (*pair)(int) : {dicePlace, handInSlot, sectionRadio, sectionRadios})
+        add(pair, 2);
+    for (Rect (*four)(int) : {languageBox, teamNameBox, coursePicture, courseCell})
+        add(four, 4);
+    add(settingsField, 3);
+    for (Rect (*one)() : {dialogBox, dialogTitleBar, scorecardBox, scorecardTitleBar, cardPanel,
+                          extraCardSlot, extraDicePlace, manualFrame, raceNameBox, overviewPicture,
+                          movementFrame, ratioFrame, raceListFrame, raceListNames})
+        all.push_back(one());
+    return all;
 }

@@ -15,6 +15,7 @@
 #include "play/start.h"
 #include "race/event_deck.h"
 #include "race/race_state.h"
+#include "screen/support/gl_window.h"
 #include "store/courses_file.h"
 #include "store/race_file.h"
 #include "support/fake_host.h"
@@ -412,19 +413,7 @@ void setScene(Scene scene, int language)
     const double ratioW = settings.ratioW;
     const double ratioH = settings.ratioH;
     std::filesystem::remove("courses");
-    installFakeHost();
-    courseText.clear();
-    courseScreens = {};
-    raceSetup = {};
-    race = {};
-    view = {};
-    teamSetup = {};
-    settingsScreen = {};
-    raceList = {};
-    racePreview = {};
-    deck = {};
-    manualPage = 0;
-    returnState = STATE_TRANSIT;
+    forgetEverything();
     gameState = STATE_MAIN_MENU;
     scenes[scene].race();
     settings = {.language = language, .ratioW = ratioW, .ratioH = ratioH};
