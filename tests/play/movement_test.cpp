@@ -1,7 +1,5 @@
 #include "play/movement.h"
 
-#include "app/game_state.h"
-#include "board/course.h"
 #include "play/turn_cycle.h"
 #include "race/step_rule.h"
 #include "support/fake_host.h"
@@ -12,10 +10,6 @@
 namespace
 {
 
-constexpr std::string_view ONE_LAP = "01S23S4S5F12";
-constexpr std::string_view TWO_LAPS = "01234512345F12";
-constexpr bool MOVED = true;
-
 Square step(Square from, char letter)
 {
     return stepTarget(from.row, from.lane, letter, false);
@@ -23,7 +17,7 @@ Square step(Square from, char letter)
 
 } // namespace
 
-TEST(StepRule, PassThroughRowsCostNothing)
+TEST(StepRule, PassThroughRowsCostNothingAndTheRoadHasEdges)
 {
     setUpRace(ONE_LAP, {});
     EXPECT_EQ(step({8, 0}, 'M'), (Square{10, 0}));  // one row without a square
@@ -31,11 +25,6 @@ TEST(StepRule, PassThroughRowsCostNothing)
     EXPECT_EQ(step({8, 1}, 'L'), (Square{10, 0}));  // after a change of lane
     EXPECT_EQ(step({76, 4}, 'M'), (Square{98, 4})); // across the seam of two sections
     EXPECT_EQ(step({76, 5}, 'M'), (Square{99, 5})); // and on into the next one's
-}
-
-TEST(StepRule, TheRoadHasEdges)
-{
-    setUpRace(ONE_LAP, {});
     EXPECT_EQ(step({7, 0}, 'L'), NO_STEP);
     EXPECT_EQ(step({7, 4}, 'R'), NO_STEP);
     EXPECT_EQ(step({44, 1}, 'M'), NO_STEP); // the lane ends
@@ -84,9 +73,14 @@ TEST(Steering, UndoGoesBackToTheStartAndNoFurther)
 {
     setUpPersonsRace(ONE_LAP, {{0, 5, 1}});
     beginPersonsMove(0, 4);
-    steer("MRMM");
+    const auto figure = [] { return std::pair(race.riders[0].x, race.riders[0].y); };
+    steer("MRM");
+    const auto before = figure();
+    steer("M");
+    EXPECT_NE(figure(), before);
     EXPECT_EQ(race.riderLapCount[0], 1); // the start section lies behind him
     undoStep();
+    EXPECT_EQ(figure(), before);
     EXPECT_EQ(squareOfRider(0), (Square{8, 2}));
     steer("L");
     EXPECT_EQ(squareOfRider(0), (Square{9, 1}));

@@ -1,7 +1,5 @@
 #include "play/placing.h"
 
-#include "app/game_state.h"
-#include "board/course.h"
 #include "support/races.h"
 #include "support/scripted_rand.h"
 
@@ -10,8 +8,6 @@
 
 namespace
 {
-
-constexpr std::string_view ONE_LAP = "01S23S4S5F12";
 
 using Teams = std::vector<int>;
 
@@ -34,15 +30,17 @@ Teams teamsAskedFor(std::initializer_list<int> sums)
         const int first = std::min(6, sum - 1);
         const ScriptedRand script{orderThrow(first, sum - first)};
         throwForOrder();
+        EXPECT_EQ(race.dice, (Pair{first, sum - first}));
         afterOrderThrow();
+        EXPECT_EQ(race.dice, (Pair{-1, -1})); // none lies there for the next team
     }
     return asked;
 }
 
 // The team has won the throw.
-void waitForPlacing(int team, bool persons)
+void waitForPlacing(int team, bool persons, std::string_view text = ONE_LAP)
 {
-    startSeededRace(ONE_LAP, 1);
+    startSeededRace(text, 1);
     for (Rider& rider : race.riders)
         rider.isHuman = persons;
     race.teamThrow = {2, 2, 2, 2};
@@ -57,14 +55,12 @@ void placeOn(int row, int lane)
     placeHumanRider();
 }
 
-void placeOnFirstLegal()
+// Tries every square until one is taken.
+void placeSomewhere()
 {
-    for (int square = 0; square < START_ROWS * 5; ++square) {
-        if (!mayPlaceOn(square / 5, square % 5, race.currentRider))
-            continue;
+    const int rider = race.currentRider;
+    for (int square = 0; square < 4 * 5 && race.riders[rider].row == -1; ++square)
         placeOn(square / 5, square % 5);
-        return;
-    }
 }
 
 } // namespace
@@ -74,7 +70,7 @@ TEST(OrderThrow, OneNumberGivesBothDice)
     waitForOrderThrow();
     const ScriptedRand script{36 + 8};
     throwForOrder();
-    EXPECT_EQ(race.dice, (Table<int, 2>{2, 3}));
+    EXPECT_EQ(race.dice, (Pair{2, 3}));
     EXPECT_EQ(race.teamThrow[0], 5);
     throwForOrder(); // a throw stands
     EXPECT_EQ(script.calls(), 1);
@@ -101,7 +97,7 @@ TEST(Placing, TheTeamThatWonLeadsEachCycle)
     std::vector<int> placed;
     while (gameState == STATE_PLACE_HUMAN && placed.size() < RIDER_COUNT) {
         placed.push_back(race.currentRider);
-        placeOnFirstLegal();
+        placeSomewhere();
     }
     EXPECT_EQ(placed, (std::vector{8, 12, 0, 4, 9, 13, 1, 5, 10, 14, 2, 6, 11, 15, 3, 7}));
     EXPECT_EQ(gameState, STATE_TURN);
@@ -111,13 +107,15 @@ TEST(Placing, TheTeamThatWonLeadsEachCycle)
 TEST(Placing, OneOfATeamInALane)
 {
     waitForPlacing(0, true);
-    placeOn(START_ROWS, 2); // behind the start rows
-    placeOn(0, 5);          // beside the road
+    placeOn(4, 2); // behind the start rows
+    placeOn(0, 5); // beside the road
     EXPECT_EQ(race.currentRider, 0);
     placeOn(2, 3);
     EXPECT_EQ(occupant(2, 3), 0);
-    EXPECT_EQ(race.placingLane, 0); // the cursor is back
-    placeOn(2, 3);                  // taken
+    EXPECT_EQ(squareOfRider(0), (Square{2, 3}));
+    EXPECT_EQ(race.placingRow, 0); // the cursor is back
+    EXPECT_EQ(race.placingLane, 0);
+    placeOn(2, 3); // taken
     EXPECT_EQ(race.currentRider, 4);
     placeOn(3, 3);
     placeOn(0, 2);
@@ -129,19 +127,32 @@ TEST(Placing, OneOfATeamInALane)
     EXPECT_EQ(race.currentRider, 5);
 }
 
+TEST(Placing, TheCursorStaysOnTheRoad)
+{
+    for (const bool start2 : {false, true}) {
+        waitForPlacing(0, true, start2 ? FROM_START_2 : ONE_LAP);
+        const int right = start2 ? 4 : 0;
+        EXPECT_EQ(race.placingLane, right);
+        movePlacingCursor(-1, -1);
+        EXPECT_EQ((Square{race.placingRow, race.placingLane}), (Square{0, right}));
+        movePlacingCursor(9, 9);
+        EXPECT_EQ((Square{race.placingRow, race.placingLane}), (Square{3, start2 ? 7 : 4}));
+    }
+}
+
 TEST(Placing, ComputerFillsTheThirdRowFromTheRight)
 {
     waitForPlacing(0, false);
     // clang-format off
     // lane             0   1   2   3   4
-    constexpr int GRID[START_ROWS][5] = {
+    constexpr int GRID[4][5] = {
                       {-1, -1, -1, -1, 15},
                       {11,  7,  3, 14, 10},
                       { 1, 12,  8,  4,  0},
                       { 6,  2, 13,  9, -1},   // rider 5 has set out from the last
     };
     // clang-format on
-    for (int row = 0; row < START_ROWS; ++row)
+    for (int row = 0; row < 4; ++row)
         for (int lane = 0; lane < 5; ++lane)
             EXPECT_EQ(occupant(row, lane), GRID[row][lane]) << row << ", " << lane;
     EXPECT_EQ(race.currentRider, 5);

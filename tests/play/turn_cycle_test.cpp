@@ -1,20 +1,14 @@
 #include "play/turn_cycle.h"
 
-#include "app/game_state.h"
-#include "app/view.h"
-#include "board/course.h"
 #include "play/movement.h"
 #include "race/soundness.h"
 #include "support/races.h"
+#include "support/scripted_rand.h"
 
 #include <gtest/gtest.h>
 
 namespace
 {
-
-constexpr std::string_view ONE_LAP = "01S23S4S5F12"; // finish row 114
-constexpr std::string_view TWO_LAPS = "01234512345F12";
-constexpr bool MOVED = true;
 
 // Riders who have been off the board in this round; others may have come onto their squares since.
 void waitOffBoard(std::initializer_list<int> riders)
@@ -42,18 +36,26 @@ TEST(NextTurn, FrontMostOfThoseLeftPlays)
     EXPECT_EQ(race.roundNumber, 2);
 }
 
+// None of it may stand on the panel, or count, when the next one is about to throw.
 TEST(NextTurn, ForgetsTheMoveBefore)
 {
     setUpPersonsRace(ONE_LAP, {{3, 7, 2}});
-    race.extraMoves = 4;
-    race.extraDie = 3;
+    race.moveBudget = 9;
+    race.stepsTaken = 4;
+    race.dice = race.playedCards = race.handInCards = {3, 1};
+    race.extraMoves = race.bonusMoves = race.extraDie = race.dopingCardValue = 5;
     race.breakaway = 1;
-    race.handInCards = {0, 1};
+    race.followerRider = race.eventRider = 7;
+    race.followerPlan[7] = 100;
     nextTurn();
-    EXPECT_EQ(race.extraMoves, 0);
-    EXPECT_EQ(race.extraDie, -1);
-    EXPECT_EQ(race.breakaway, 0);
-    EXPECT_EQ(race.handInCards, (Table<int, 2>{-1, -1}));
+    EXPECT_EQ(race.moveBudget, -1);
+    EXPECT_EQ(race.stepsTaken, 0);
+    for (const Pair& pair : {race.dice, race.playedCards, race.handInCards})
+        EXPECT_EQ(pair, (Pair{-1, -1}));
+    EXPECT_FALSE(race.extraMoves || race.bonusMoves || race.breakaway);
+    for (const int none : {race.extraDie, race.dopingCardValue, race.followerRider, race.eventRider,
+                           race.followerPlan[7]})
+        EXPECT_EQ(none, -1);
 }
 
 TEST(Finishers, TheLineDirectlyBehindLeavesWithTheLeader)
@@ -158,6 +160,18 @@ TEST(SetBack, FrontMostFirstThenTheLowerIndex)
     EXPECT_EQ(squareOfRider(9), (Square{7, 2}));
 }
 
+TEST(SetBack, OverTheLineOfALapHeIsInTheLapBehindIt)
+{
+    setUpPersonsRace(ONE_LAP, {{5, 6, 0}});
+    race.riderLapCount[5] = 1;
+    waitOffBoard({5});
+    course.courseOccupant[6][0] = 0;
+    nextTurn();
+    EXPECT_EQ(squareOfRider(5), (Square{5, 4}));
+    EXPECT_EQ(race.currentRider, 5);
+    EXPECT_EQ(race.riderLapCount[5], 0);
+}
+
 TEST(SetBack, APrintedSquareIsTakenOnEveryLap)
 {
     setUpPersonsRace(TWO_LAPS, {{5, 7, 2}, {0, 116, 5, MOVED}});
@@ -182,26 +196,26 @@ TEST(SetBack, WithoutASquareHeIsPassedOver)
 TEST(SetBack, WhoFoundNoSquareIsBackOnceHeHasMoved)
 {
     for (const bool person : {true, false}) {
-        setUpPersonsRace(ONE_LAP, {{0, 0, 0}, {1, 0, 1}, {2, 0, 2}, {3, 0, 3}, {4, 0, 4}});
-        if (!person)
-            for (int rider = 0; rider < RIDERS_PER_TEAM; ++rider)
-                race.riders[rider].isHuman = 0;
+        setUpRace(
+            ONE_LAP,
+            {{0, 0, 0}, {1, 0, 1, MOVED}, {2, 0, 2, MOVED}, {3, 0, 3, MOVED}, {4, 0, 4, MOVED}});
+        if (person)
+            makeHuman(0);
         race.riders[0].offBoard = 1;
+        race.riders[5] = {.row = 0, .lane = 0, .hasMoved = 1};
         course.courseOccupant[0][0] = 5;
-        race.riders[5] = {.row = 0, .lane = 0, .hasMoved = 1, .isHuman = 1};
-        for (const int rider : {1, 2, 3, 4})
-            race.riders[rider].hasMoved = 1;
         nextTurn();
         ASSERT_EQ(race.currentRider, 0);
         EXPECT_EQ(occupant(0, 0), 5);
         if (person) {
-            beginPersonsMove(0, 1);
-            course.courseOccupant[0][0] = 5;
+            throwNumber(raceThrow(1, 1));
+            steer("M");
+            EXPECT_EQ(race.riders[0].offBoard, 0); // and is seen there
             steer("M");
             endHumanMove();
         } else {
-            while (gameState == STATE_ANIMATE && race.currentRider == 0)
-                advanceComputerRace();
+            while (race.riders[0].hasMoved == 0)
+                ASSERT_TRUE(advanceComputerRace());
         }
         EXPECT_EQ(race.riders[0].offBoard, 0);
         EXPECT_GT(race.riders[0].row, 0);

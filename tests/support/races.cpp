@@ -1,10 +1,8 @@
 #include "support/races.h"
 
-#include "app/game_state.h"
 #include "app/settings.h"
-#include "app/view.h"
-#include "board/course.h"
 #include "board/rider_motion.h"
+#include "play/cards.h"
 #include "play/doping.h"
 #include "play/events.h"
 #include "play/movement.h"
@@ -46,7 +44,7 @@ static void leaveEveryoneOut()
     }
 }
 
-void setUpRace(std::string_view text, std::initializer_list<Placed> placed)
+void setUpRace(std::string_view text, const std::vector<Placed>& placed)
 {
     startSeededRace(text, 1);
     leaveEveryoneOut();
@@ -115,7 +113,7 @@ void runComputerRace()
     }
 }
 
-void setUpPersonsRace(std::string_view text, std::initializer_list<Placed> placed)
+void setUpPersonsRace(std::string_view text, const std::vector<Placed>& placed)
 {
     setUpRace(text, placed);
     for (int team = 0; team < TEAM_COUNT; ++team)
@@ -135,6 +133,37 @@ void steer(std::string_view letters)
 {
     for (const char letter : letters)
         stepRider(letter);
+}
+
+void pickCards(std::initializer_list<int> slots)
+{
+    for (const int slot : slots)
+        pickCard(slot);
+}
+
+void leaveCards(int team, std::initializer_list<int> slots)
+{
+    for (int slot = 0; slot < SET_CARD_COUNT; ++slot)
+        race.cardUsed[team][slot] = CARD_SPENT;
+    for (const int slot : slots)
+        race.cardUsed[team][slot] = CARD_AVAILABLE;
+}
+
+std::vector<int> spentCards(int team)
+{
+    std::vector<int> spent;
+    for (int slot = 0; slot < SET_CARD_COUNT; ++slot)
+        if (race.cardUsed[team][slot] == CARD_SPENT)
+            spent.push_back(slot);
+    return spent;
+}
+
+void giveWonCard(int slot, int rider, int value)
+{
+    const int team = riderTeam(rider);
+    race.cardUsed[team][slot] = CARD_AVAILABLE;
+    race.wonCardRider[team][slot - SET_CARD_COUNT] = rider;
+    race.wonCardValue[team][slot - SET_CARD_COUNT] = value;
 }
 
 Square squareOfRider(int rider)
