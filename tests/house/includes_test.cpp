@@ -45,28 +45,6 @@ Rooms readRooms()
     return rooms;
 }
 
-enum Mark { UNSEEN, OPEN, DONE };
-
-// The rooms of a circle, or nothing.
-std::vector<std::string> circleFrom(const std::string& room, const Rooms& rooms,
-                                    std::map<std::string, Mark>& marks)
-{
-    if (marks[room] == DONE)
-        return {};
-    if (marks[room] == OPEN)
-        return {room};
-    marks[room] = OPEN;
-    if (const auto found = rooms.find(room); found != rooms.end())
-        for (const std::string& below : found->second)
-            if (auto circle = circleFrom(below, rooms, marks); !circle.empty()) {
-                marks[room] = DONE;
-                circle.push_back(room);
-                return circle;
-            }
-    marks[room] = DONE;
-    return {};
-}
-
 // From the bottom up; the files of src itself lie on top.
 constexpr std::string_view FLOORS[] = {"app",  "board", "race",  "store", "ai",
                                        "play", "ui",    "input", ""};
@@ -81,17 +59,20 @@ std::ptrdiff_t floorOf(const std::string& room)
 
 } // namespace
 
+// Room by room whatever leads nowhere any more is taken away; what stays runs in a circle.
 TEST(House, IncludesNeverRunInACircle)
 {
-    const Rooms rooms = readRooms();
+    Rooms rooms = readRooms();
     ASSERT_GT(rooms.size(), 20u);
-    std::map<std::string, Mark> marks;
-    for (const auto& [room, below] : rooms) {
-        std::string text;
-        for (const std::string& step : circleFrom(room, rooms, marks))
-            text += step + " <- ";
-        EXPECT_EQ(text, "");
+    for (std::size_t before = 0; before != rooms.size();) {
+        before = rooms.size();
+        std::erase_if(rooms, [&rooms](const auto& room) {
+            return std::ranges::none_of(
+                room.second, [&rooms](const std::string& below) { return rooms.contains(below); });
+        });
     }
+    for (const auto& [room, below] : rooms)
+        ADD_FAILURE() << room << " is in a circle or above one";
 }
 
 TEST(House, AFileIncludesItsOwnFolderAndThoseBelow)
