@@ -8,11 +8,8 @@
 
 #include <set>
 
-namespace
-{
-
 // The best route of rider 0 with a throw of so many.
-RouteBest search(Square from, int thrown, bool simulateFollowers = false)
+static RouteBest search(Square from, int thrown, bool simulateFollowers = false)
 {
     race.currentRider = 0;
     race.movesTotal = thrown;
@@ -25,7 +22,7 @@ RouteBest search(Square from, int thrown, bool simulateFollowers = false)
 }
 
 // The furthest row of a rider with so many moves, alone on the road.
-int rowWalkedTo(Square from, int moves)
+static int rowWalkedTo(Square from, int moves)
 {
     RouteBest best;
     findRoute(from, moves, {.rider = 0, .reachOnly = true}, best);
@@ -33,7 +30,7 @@ int rowWalkedTo(Square from, int moves)
 }
 
 // Every square within a number of moves, by trying all ways.
-void collect(Square at, int moves, std::set<std::pair<int, int>>& reached)
+static void collect(Square at, int moves, std::set<std::pair<int, int>>& reached)
 {
     reached.insert({at.row, at.lane});
     if (moves == 0)
@@ -41,21 +38,6 @@ void collect(Square at, int moves, std::set<std::pair<int, int>>& reached)
     for (const char letter : {'R', 'L', 'M'})
         if (const Square to = stepTarget(at.row, at.lane, letter, false); to != NO_STEP)
             collect(to, moves - 1, reached);
-}
-
-} // namespace
-
-TEST(RouteSearch, ReachOfKnownSquares)
-{
-    struct {
-        int row, lane, reach12, reach11;
-    } const known[] = {{0, 0, 15, 14},  {14, 4, 32, 31}, {24, 3, 41, 39},
-                       {30, 2, 47, 44}, {44, 2, 64, 63}, {60, 4, 75, 74}};
-    setUpRace(ONE_LAP, {});
-    for (const auto& square : known) {
-        EXPECT_EQ(course.reach12[square.row][square.lane], square.reach12) << square.row;
-        EXPECT_EQ(course.reach11[square.row][square.lane], square.reach11) << square.row;
-    }
 }
 
 // The reach tables come from one pass over the course; the walk must agree square by square.
@@ -136,22 +118,11 @@ TEST(RouteSearch, ReachesWhatTryingAllWaysReaches)
     }
 }
 
-TEST(RouteSearch, BoxedInRidersStayAndNoBudgetEvaluatesNothing)
-{
-    setUpRace(ONE_LAP, {{1, 3, 1}, {2, 3, 2}, {3, 3, 3}});
-    const RouteBest boxed = search({2, 2}, 6);
-    EXPECT_EQ(boxed.row, 2);
-    EXPECT_TRUE(boxed.path.empty());
-    RouteBest untouched;
-    findRoute({2, 2}, -1, {.rider = 0}, untouched);
-    EXPECT_EQ(untouched.row, -1);
-    EXPECT_FALSE(reachesSquare(0, {2, 2}, {2, 2}, 6)); // where he stands
-}
-
 // Past a sprint counts as long as its third place is open.
 TEST(RouteSearch, AnOpenSprintBeatsAnyReach)
 {
-    setUpRace(ONE_LAP, {});
+    setUpRace(ONE_LAP, {{1, 3, 1}, {2, 3, 2}, {3, 3, 3}});
+    EXPECT_TRUE(search({2, 2}, 6).path.empty()); // boxed in
     EXPECT_EQ(search({27, 4}, 6).sprint, 1);
     race.resultSlots[2] = 9;
     const RouteBest taken = search({27, 4}, 6);

@@ -63,18 +63,6 @@ TEST(Course, SectionsThatNoLongerFitAreLeftOut)
     }
 }
 
-TEST(Course, EachLapStandsThreeLanesFurtherOut)
-{
-    assemble("01S23S4S5F12");
-    EXPECT_EQ(squareAt(6, 0), 0);
-    EXPECT_EQ(squareAt(115, 2), NO_SQUARE);
-    EXPECT_EQ(squareAt(115, 3), 0);
-    // Every printed square of a lap is the same a lap later.
-    for (int row = 6; row < 6 + 35; ++row)
-        for (int lane = 0; lane < COURSE_LANES - LANES_PER_LAP; ++lane)
-            EXPECT_EQ(squareAt(row, lane), squareAt(row + ROWS_PER_LAP, lane + LANES_PER_LAP));
-}
-
 TEST(Course, FindsARiderOnAPrintedSquareThroughAllLaps)
 {
     setUpRace(ONE_LAP, {{7, 3, 2}});

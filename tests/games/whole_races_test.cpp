@@ -1,6 +1,7 @@
 #include "app/settings.h"
 #include "play/start.h"
 #include "race/soundness.h"
+#include "support/fingerprint.h"
 #include "support/races.h"
 
 #include <gtest/gtest.h>
@@ -11,18 +12,7 @@
 namespace
 {
 
-// One number for all that a race decides: FNV-1a over the records that the rules write.
-struct Fingerprint {
-    void add(int value)
-    {
-        for (int byte = 0; byte < 4; ++byte) {
-            hash ^= static_cast<std::uint32_t>(value >> (8 * byte)) & 0xffu;
-            hash *= 16777619u;
-        }
-    }
-    std::uint32_t hash = 2166136261u;
-};
-
+// All that a race decides: the records that the rules write.
 void addTurn(Fingerprint& print)
 {
     print.add(race.roundNumber);
@@ -39,60 +29,25 @@ void addTurn(Fingerprint& print)
         print.add(rider);
 }
 
-// What may not happen from one turn to the next.
-std::string changeFault(const RaceState& before)
-{
-    for (int rider = 0; rider < RIDER_COUNT; ++rider) {
-        const Rider& was = before.riders[rider];
-        const Rider& is = race.riders[rider];
-        const bool setBack = was.offBoard && race.roundNumber > before.roundNumber;
-        if (is.row < was.row && !setBack)
-            return "rider " + std::to_string(riderNumber(rider)) + " moved backward";
-        if (was.finished && !is.finished)
-            return "a finisher came back";
-    }
-    for (int team = 0; team < TEAM_COUNT; ++team)
-        for (int slot = 0; slot < CARD_SLOT_COUNT; ++slot)
-            if (before.cardUsed[team][slot] == CARD_SPENT &&
-                race.cardUsed[team][slot] == CARD_AVAILABLE)
-                return "a spent card came back";
-    for (int slot = 0; slot < RESULT_SLOT_COUNT; ++slot)
-        if (before.resultSlots[slot] != -1 && race.resultSlots[slot] != before.resultSlots[slot])
-            return "a place changed hands";
-    return {};
-}
-
 // Runs a seeded race to its end; every turn goes into the fingerprint and is checked.
 std::uint32_t runRace(std::string_view text, unsigned seed, bool eventCards)
 {
     startSeededRace(text, seed);
     raceSetup.eventCardsOn = eventCards;
     Fingerprint print;
-    RaceState before = race;
-    int steps = 0;
-    while (advanceComputerRace()) {
-        if (++steps > 200000) {
-            ADD_FAILURE() << "the race never ends";
-            break;
-        }
+    std::pair before(race.currentRider, race.roundNumber);
+    for (int steps = 0; steps < 200000 && advanceComputerRace(); ++steps) {
+        const std::pair now(race.currentRider, race.roundNumber);
         // A turn has just ended when the next rider is about to be carried off.
-        if (gameState != STATE_ANIMATE && gameState != STATE_NO_MOVE)
+        if ((gameState != STATE_ANIMATE && gameState != STATE_NO_MOVE) || now == before)
             continue;
-        if (race.currentRider == before.currentRider && race.roundNumber == before.roundNumber)
-            continue;
-        const std::string fault = raceFault() + changeFault(before);
-        EXPECT_EQ(fault, "") << text << " seed " << seed << " round " << race.roundNumber;
-        if (!fault.empty())
-            return 0;
+        EXPECT_EQ(raceFault(), "") << text << " seed " << seed << " round " << race.roundNumber;
         addTurn(print);
-        before = race;
+        before = now;
     }
     EXPECT_EQ(gameState, STATE_FINAL_SCORECARD);
-    for (int slot = FINISH_SLOT; slot < RESULT_SLOT_COUNT; ++slot)
-        EXPECT_NE(race.resultSlots[slot], -1);
     for (const Rider& rider : race.riders)
         EXPECT_TRUE(rider.finished);
-    EXPECT_GT(spentCards(0).size() + spentCards(1).size(), 0u);
     addTurn(print);
     return print.hash;
 }

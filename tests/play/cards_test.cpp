@@ -5,20 +5,17 @@
 
 #include <gtest/gtest.h>
 
-namespace
-{
-
 using WonCards = Table<int, WON_CARD_COUNT>;
 
 // A person's rider before his throw, in round 2.
-void turnOf(int rider, Square square)
+static void turnOf(int rider, Square square)
 {
     setUpPersonsRace(ONE_LAP, {{rider, square.row, square.lane}});
     beginPersonsTurn(rider);
 }
 
 // Which cards lie after these have been picked.
-Pair laidBy(int rider, Square square, std::initializer_list<int> slots)
+static Pair laidBy(int rider, Square square, std::initializer_list<int> slots)
 {
     turnOf(rider, square);
     giveWonCard(14, rider, BLUE_CARD);
@@ -27,16 +24,13 @@ Pair laidBy(int rider, Square square, std::initializer_list<int> slots)
     return race.playedCards;
 }
 
-// A person's rider has thrown 7 and is given a card of this kind.
-void winCard(int value, Square square = FLAT)
+// The person on turn throws 7 and is given a card of this kind.
+static void winCard(int value)
 {
-    turnOf(5, square);
     throwNumber(raceThrow(3, 4));
     gameState = STATE_EVENT_CARD_KIND;
     receiveWonCard(value);
 }
-
-} // namespace
 
 TEST(Cards, ARiderHasHisOwnHisTeamsAndThoseHeWon)
 {
@@ -148,49 +142,42 @@ TEST(Throw, TheSquareAddsToItAndMayStopTheRider)
     }
 }
 
-TEST(WonCard, ForLaterGoesToTheFirstFreeSlot)
+TEST(WonCard, IsUsedAtOnceOrGoesToTheFirstFreeSlot)
 {
-    winCard(WHITE_CARD);
-    giveWonCard(14, 6, WHITE_CARD);
-    giveWonCard(15, 6, WHITE_CARD);
-    race.cardUsed[1][15] = CARD_SPENT;
-    gameState = STATE_EVENT_CARD_KIND;
-    receiveWonCard(BLUE_CARD);
-    useWonCard(false);
-    EXPECT_EQ(race.cardUsed[1][15], CARD_AVAILABLE);
-    EXPECT_EQ(race.wonCardRider[1], (WonCards{6, 5, -1, -1}));
-    EXPECT_EQ(race.wonCardValue[1][1], BLUE_CARD);
-    EXPECT_EQ(race.moveBudget, 7);
-}
-
-TEST(WonCard, UsedAtOnceLeavesItsSlotFree)
-{
-    winCard(WHITE_CARD);
-    useWonCard(true);
-    EXPECT_EQ(race.moveBudget, 12);
-    EXPECT_EQ(race.bonusMoves, WHITE_CARD);
-    EXPECT_EQ(race.movesTotal, 7);
-    EXPECT_EQ(race.cardUsed[1][14], CARD_NONE);
-    EXPECT_EQ(gameState, STATE_MOVE);
+    for (const bool now : {true, false}) {
+        turnOf(5, FLAT);
+        giveWonCard(14, 6, WHITE_CARD);
+        giveWonCard(15, 6, WHITE_CARD);
+        race.cardUsed[1][15] = CARD_SPENT;
+        winCard(BLUE_CARD);
+        EXPECT_EQ(gameState, STATE_EVENT_CARD_WHEN);
+        useWonCard(now);
+        EXPECT_EQ(gameState, STATE_MOVE);
+        EXPECT_EQ(race.cardUsed[1][15], now ? CARD_SPENT : CARD_AVAILABLE);
+        EXPECT_EQ(race.wonCardRider[1], (WonCards{6, 5, -1, -1}));
+        EXPECT_EQ(race.wonCardValue[1][1], BLUE_CARD);
+        EXPECT_EQ(race.moveBudget, now ? 7 + BLUE_CARD : 7);
+        EXPECT_EQ(race.bonusMoves, now ? BLUE_CARD : 0);
+        EXPECT_EQ(race.movesTotal, 7);
+    }
 }
 
 TEST(WonCard, BlueOnAMountainIsKeptUnasked)
 {
-    winCard(BLUE_CARD, MOUNTAIN);
-    EXPECT_EQ(gameState, STATE_MOVE);
-    EXPECT_EQ(race.cardUsed[1][14], CARD_AVAILABLE);
-    winCard(WHITE_CARD, MOUNTAIN);
-    EXPECT_EQ(gameState, STATE_EVENT_CARD_WHEN);
+    for (const int value : {BLUE_CARD, WHITE_CARD}) {
+        turnOf(5, MOUNTAIN);
+        winCard(value);
+        EXPECT_EQ(gameState, value == BLUE_CARD ? STATE_MOVE : STATE_EVENT_CARD_WHEN);
+        EXPECT_EQ(race.cardUsed[1][14], value == BLUE_CARD ? CARD_AVAILABLE : CARD_NONE);
+    }
 }
 
 TEST(WonCard, TheFifthIsLost)
 {
     turnOf(5, FLAT);
-    throwNumber(raceThrow(3, 4));
     for (int slot = SET_CARD_COUNT; slot < CARD_SLOT_COUNT; ++slot)
         giveWonCard(slot, 6, WHITE_CARD);
-    gameState = STATE_EVENT_CARD_KIND;
-    receiveWonCard(BLUE_CARD);
+    winCard(BLUE_CARD);
     useWonCard(true);
     EXPECT_EQ(race.moveBudget, 7);
     EXPECT_EQ(race.wonCardRider[1], (WonCards{6, 6, 6, 6}));

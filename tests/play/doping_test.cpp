@@ -8,17 +8,14 @@
 
 #include <gtest/gtest.h>
 
-namespace
-{
-
-void beginTurnOn(Square square)
+static void beginTurnOn(Square square)
 {
     setUpPersonsRace(ONE_LAP, {{5, square.row, square.lane}});
     beginPersonsTurn(5);
 }
 
 // Dopes with the number given.
-void dope(int number)
+static void dope(int number)
 {
     askDoping();
     const ScriptedRand chance{number - 1};
@@ -27,7 +24,7 @@ void dope(int number)
 }
 
 // A stage is over, with these riders doped and everybody in by index.
-void endStage(std::initializer_list<std::pair<int, int>> dopedWith)
+static void endStage(std::initializer_list<std::pair<int, int>> dopedWith)
 {
     setUpPersonsRace(ONE_LAP, {});
     for (const auto& [rider, number] : dopedWith)
@@ -37,12 +34,10 @@ void endStage(std::initializer_list<std::pair<int, int>> dopedWith)
 }
 
 // The random number behind a draw of two numbers.
-int drawOf(int first, int second)
+static int drawOf(int first, int second)
 {
     return (first - 1) * 5 + (second > first ? second - 2 : second - 1);
 }
-
-} // namespace
 
 TEST(Doping, GivesACardForThisThrowAndANumber)
 {
@@ -135,8 +130,7 @@ TEST(DopingControl, EveryRiderCaughtHasACountercheckOfHisOwn)
     EXPECT_EQ(race.resultSlots[FINISH_SLOT + 10], 10); // nobody moves up
 
     nextCountercheck();
-    EXPECT_EQ(race.currentRider, 15);
-    EXPECT_EQ(gameState, STATE_DOPING_COUNTERCHECK);
+    EXPECT_EQ(onTurn(), (OnTurn{15, STATE_DOPING_COUNTERCHECK}));
     nextCountercheck();
     EXPECT_EQ(gameState, STATE_FINAL_SCORECARD);
     EXPECT_EQ(script.calls(), 4);

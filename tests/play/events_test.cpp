@@ -8,16 +8,13 @@
 
 #include <gtest/gtest.h>
 
-namespace
-{
-
-constexpr Square DESCENT = {44, 2}; // +5
-constexpr int FREE_CARD = 16;
-constexpr int EXTRA_DIE = 19;
-constexpr int PAID_SPACES = 29;
+static constexpr Square DESCENT = {44, 2}; // +5
+static constexpr int FREE_CARD = 16;
+static constexpr int EXTRA_DIE = 19;
+static constexpr int PAID_SPACES = 29;
 
 // This rider has thrown 4 and 3 and holds this card.
-void draw(int card, int rider)
+static void draw(int card, int rider)
 {
     beginPersonsMove(rider, 7 + squareAt(race.riders[rider].row, race.riders[rider].lane));
     race.dice = {4, 3};
@@ -27,7 +24,7 @@ void draw(int card, int rider)
 }
 
 // Rider 0 holds this card; rider 15, a person's, comes next.
-void hold(int card, bool person, Square square = FLAT)
+static void hold(int card, bool person, Square square = FLAT)
 {
     setUpRace(ONE_LAP, {{0, square.row, square.lane}, {15, 6, 0}});
     if (person)
@@ -36,25 +33,23 @@ void hold(int card, bool person, Square square = FLAT)
     draw(card, 0);
 }
 
-void apply(int card, bool person, Square square = FLAT)
+static void apply(int card, bool person, Square square = FLAT)
 {
     hold(card, person, square);
     applyEventCard();
 }
 
 // The person who is asked hands in these cards.
-void pay(std::initializer_list<int> slots)
+static void pay(std::initializer_list<int> slots)
 {
     pickCards(slots);
     confirmHandIn();
 }
 
-bool lostHisTurn(int rider)
+static bool lostHisTurn(int rider)
 {
     return race.riders[rider].offBoard && race.riders[rider].hasMoved;
 }
-
-} // namespace
 
 TEST(EventCard, IsDrawnForASevenFromTheSecondRoundOn)
 {
@@ -106,8 +101,7 @@ TEST(EventCard, LostTurnsAreBoughtOffByPersonsIfTheyLike)
     pay({3}); // one card for two turns: the running one is lost, and no other
     EXPECT_TRUE(lostHisTurn(0));
     EXPECT_EQ(race.riders[0].skipTurns, 0);
-    EXPECT_EQ(race.currentRider, 15);
-    EXPECT_EQ(gameState, STATE_TURN);
+    EXPECT_EQ(onTurn(), (OnTurn{15, STATE_TURN}));
 
     apply(7, true);
     pay({});
@@ -151,14 +145,12 @@ TEST(EventCard, VictimsOfACrashAnswerAfterItsCauserFrontToBack)
         EXPECT_EQ(race.riderLapCount[4], 1); // as the panel says
         EXPECT_EQ(gameState, STATE_SKIP_HANDIN);
         pay({0});
-        EXPECT_EQ(race.currentRider, 8);
-        EXPECT_EQ(gameState, STATE_SKIP_NO_CARD);
+        EXPECT_EQ(onTurn(), (OnTurn{8, STATE_SKIP_NO_CARD}));
         pay({}); // and those of the others aren't his
         EXPECT_TRUE(lostHisTurn(8));
         EXPECT_EQ(occupant(5, 2), -1);
         EXPECT_EQ(occupant(6, 2), 4);
-        EXPECT_EQ(race.currentRider, 0); // has paid and moves with his throw
-        EXPECT_EQ(gameState, STATE_MOVE);
+        EXPECT_EQ(onTurn(), (OnTurn{0, STATE_MOVE})); // has paid and moves with his throw
     }
 }
 
@@ -173,8 +165,7 @@ TEST(EventCard, WhoHasLostHisTurnInACrashHandsItOn)
     EXPECT_EQ(race.riders[0].skipTurns, 1);
     EXPECT_EQ(race.currentRider, 4);
     pay({0});
-    EXPECT_EQ(race.currentRider, 4); // the turn in hand was lost; now it is his own
-    EXPECT_EQ(gameState, STATE_TURN);
+    EXPECT_EQ(onTurn(), (OnTurn{4, STATE_TURN})); // the turn in hand was lost; now it is his own
 }
 
 TEST(EventCard, ComputerVictimsOfACrashPayAtOnce)
@@ -185,20 +176,17 @@ TEST(EventCard, ComputerVictimsOfACrashPayAtOnce)
     applyEventCard();
     pay({0});
     EXPECT_EQ(spentCards(2).size(), 1u);
-    EXPECT_EQ(race.currentRider, 4); // behind him, and asked after him
-    EXPECT_EQ(gameState, STATE_SKIP_HANDIN);
-    pay({}); // though he has moved already
+    EXPECT_EQ(onTurn(), (OnTurn{4, STATE_SKIP_HANDIN})); // behind him, and asked after him
+    pay({});                                             // though he has moved already
     EXPECT_TRUE(lostHisTurn(4));
-    EXPECT_EQ(race.currentRider, 0);
-    EXPECT_EQ(gameState, STATE_MOVE);
+    EXPECT_EQ(onTurn(), (OnTurn{0, STATE_MOVE}));
 }
 
-TEST(EventCard, AFreeCardIsAChoiceForPersonsAndABonusForComputerRiders)
+TEST(EventCard, AFreeCardAndAnExtraDieAreABonusForComputerRiders)
 {
     apply(FREE_CARD, true);
     EXPECT_EQ(gameState, STATE_EVENT_CARD_KIND);
     EXPECT_EQ(race.moveBudget, 7);
-
     for (const Square square : {FLAT, MOUNTAIN}) {
         apply(FREE_CARD, false, square);
         const int bonus = square == MOUNTAIN ? WHITE_CARD : BLUE_CARD;
@@ -207,18 +195,11 @@ TEST(EventCard, AFreeCardIsAChoiceForPersonsAndABonusForComputerRiders)
         EXPECT_EQ(race.movesTotal, 7 + bonus);
         EXPECT_EQ(race.cardUsed[0][SET_CARD_COUNT], CARD_NONE); // never a card
     }
-}
-
-TEST(EventCard, TheExtraDieIsThrownByPersonsOnly)
-{
     for (const bool person : {true, false}) {
         hold(EXTRA_DIE, person);
         const ScriptedRand script{3};
         applyEventCard();
-        if (person) {
-            EXPECT_EQ(gameState, STATE_EVENT_DIE);
-            throwExtraDie();
-        }
+        throwExtraDie(); // which only a person is asked to do
         EXPECT_EQ(gameState, person ? STATE_MOVE : STATE_ANIMATE);
         EXPECT_EQ(race.extraDie, 4);
         EXPECT_EQ(race.moveBudget, 7 + 4);

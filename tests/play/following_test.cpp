@@ -5,13 +5,10 @@
 
 #include <gtest/gtest.h>
 
-namespace
-{
-
-constexpr int WORTH = 50;
+static constexpr int WORTH = 50;
 
 // A person's rider moves and stops, with these moves to spare.
-void lead(int rider, std::string_view letters, int unused = 0)
+static void lead(int rider, std::string_view letters, int unused = 0)
 {
     beginPersonsMove(rider, static_cast<int>(letters.size()) + unused);
     steer(letters);
@@ -20,7 +17,7 @@ void lead(int rider, std::string_view letters, int unused = 0)
 }
 
 // Whether rider 4, who may follow rider 0, is asked.
-bool asksRider4(const std::vector<Placed>& placed, std::string_view letters)
+static bool asksRider4(const std::vector<Placed>& placed, std::string_view letters)
 {
     setUpPersonsRace(ONE_LAP, placed);
     lead(0, letters);
@@ -28,7 +25,7 @@ bool asksRider4(const std::vector<Placed>& placed, std::string_view letters)
     return gameState == STATE_FOLLOW_PROMPT && race.followerRider == 4;
 }
 
-void expectYes(int rider)
+static void expectYes(int rider)
 {
     EXPECT_EQ(gameState, STATE_FOLLOW_PROMPT);
     EXPECT_EQ(race.followerRider, rider);
@@ -38,7 +35,7 @@ void expectYes(int rider)
 }
 
 // Rider 4 becomes a computer's, to whom every square is worth the same.
-void letComputerJudge()
+static void letComputerJudge()
 {
     race.riders[4].isHuman = 0;
     course.reach12 = gridOf(WORTH);
@@ -47,7 +44,7 @@ void letComputerJudge()
 
 // Rider 0 moves from this row with rider 4, the computer's, in his wake. A square that is worth
 // something else is among those before him.
-bool computerFollows(int row, int lane, std::string_view letters, int otherRow, int worth)
+static bool computerFollows(int row, int lane, std::string_view letters, int otherRow, int worth)
 {
     setUpPersonsRace(ONE_LAP, {{0, row, lane}, {4, row - 1, lane}, {12, 20, 4}});
     letComputerJudge();
@@ -56,8 +53,6 @@ bool computerFollows(int row, int lane, std::string_view letters, int otherRow, 
     lead(0, letters);
     return race.riders[4].hasMoved != 0;
 }
-
-} // namespace
 
 TEST(Following, TheWholeLineComesAlongInTheLeadersLane)
 {
@@ -87,8 +82,7 @@ TEST(Following, ANoEndsTheChain)
     setUpPersonsRace(ONE_LAP, {{0, 104, 5}, {4, 103, 5}, {9, 102, 5}, {12, 103, 7}});
     lead(0, "MMM");
     followNo();
-    EXPECT_EQ(gameState, STATE_TURN);
-    EXPECT_EQ(race.currentRider, 12);
+    EXPECT_EQ(onTurn(), (OnTurn{12, STATE_TURN}));
     EXPECT_EQ(occupant(103, 5), 4);
     EXPECT_EQ(race.riders[4].hasMoved, 0);
     followYes(); // no question stands any more
@@ -105,6 +99,11 @@ TEST(Following, OnlyWhoIsDirectlyBehindOnTheSameTerrainAndHasNotMoved)
     EXPECT_FALSE(asksRider4({{0, 104, 5}, {4, 103, 5}, {9, 107, 6, MOVED}, {12, 103, 7}}, "MMMR"))
         << "where he would come to stand there is somebody";
     EXPECT_EQ(occupant(103, 5), 4);
+
+    setUpPersonsRace(ONE_LAP, {{0, 104, 5}, {4, 103, 5}});
+    race.breakaway = 1;
+    lead(0, "MMM");
+    EXPECT_EQ(onTurn(), (OnTurn{4, STATE_TURN}));
 }
 
 TEST(Following, TheWayMayCostTheMovesThatTheLeaderMade)

@@ -5,13 +5,10 @@
 
 #include <gtest/gtest.h>
 
-namespace
-{
-
 using Slots = std::vector<int>;
 
 // Rider 0, a person's, has drawn a card that costs him turns.
-void loseTurns(int turns, Square square)
+static void loseTurns(int turns, Square square)
 {
     setUpPersonsRace(ONE_LAP, {{0, square.row, square.lane}, {15, 6, 0}});
     beginPersonsMove(0, 7);
@@ -21,7 +18,7 @@ void loseTurns(int turns, Square square)
 }
 
 // What a computer rider of the first team pays for turns to miss, which a person drew for him.
-Slots paidBy(int rider, Square square, int skipTurns)
+static Slots paidBy(int rider, Square square, int skipTurns)
 {
     setUpRace(ONE_LAP, {{rider, square.row, square.lane, MOVED}, {12, 6, 0}});
     makeHuman(3);
@@ -31,8 +28,6 @@ Slots paidBy(int rider, Square square, int skipTurns)
     computerHandIn();
     return spentCards(0);
 }
-
-} // namespace
 
 TEST(HandIn, OnlyCardsThatHeMayHandInCount)
 {

@@ -4,13 +4,10 @@
 
 #include <gtest/gtest.h>
 
-namespace
-{
-
 using Riders = std::vector<int>;
 
 // Who lies on the road after the rider on this square has caused a crash.
-Riders crashAt(Square square)
+static Riders crashAt(Square square)
 {
     crashChain(square.row, square.lane, square.row);
     Riders down;
@@ -22,13 +19,11 @@ Riders crashAt(Square square)
     return down;
 }
 
-Riders crashOf(const std::vector<Placed>& placed, std::string_view text = ONE_LAP)
+static Riders crashOf(const std::vector<Placed>& placed, std::string_view text = ONE_LAP)
 {
     setUpRace(text, placed);
     return crashAt({placed[0].row, placed[0].lane});
 }
-
-} // namespace
 
 TEST(Crash, ReachesOneRowBackButNotTheHigherLaneOfItsOwnRow)
 {

@@ -30,36 +30,22 @@ protected:
     OwnFolder folder;
 };
 
-// A sound file whose fields a test changes before it is read.
-struct Fields {
-    int language = 3;
-    int smooth = 0;
-    std::int32_t stepTime = 12;
-    float stepDistance = 7.5f;
-    std::int32_t stepDelay = 345;
-    double ratioW = 16.0;
-    double ratioH = 10.0;
-    std::string names = std::string("Lions\0\0\0\0\0\0\0\0", 13) + std::string(39, '\0');
-};
+constexpr Settings KNOWN = {LANGUAGE_FRENCH, 0, 999, 12.5f, 7, 4.0, 3.0};
 
-Bytes bytesOf(const Fields& fields)
+// Reads the known file with these bytes in the place of its own.
+void readWith(std::size_t at, const Bytes& bytes)
 {
-    Bytes bytes;
-    putByte(bytes, fields.language);
-    putByte(bytes, fields.smooth);
-    putInt32(bytes, fields.stepTime);
-    putFloat(bytes, fields.stepDistance);
-    putInt32(bytes, fields.stepDelay);
-    putDouble(bytes, fields.ratioW);
-    putDouble(bytes, fields.ratioH);
-    bytes.insert(bytes.end(), fields.names.begin(), fields.names.end());
-    return bytes;
+    std::string known = goldenBytes("settings");
+    known.replace(at, bytes.size(), reinterpret_cast<const char*>(bytes.data()), bytes.size());
+    putBytes("settings", known);
+    readSettings();
 }
 
-void readBytes(const Bytes& bytes)
+template <typename Value> Bytes bytesWith(void (*put)(Bytes&, Value), Value value)
 {
-    putBytes("settings", std::string(bytes.begin(), bytes.end()));
-    readSettings();
+    Bytes bytes;
+    put(bytes, value);
+    return bytes;
 }
 
 void expectStartValues()
@@ -70,36 +56,38 @@ void expectStartValues()
 
 TEST_F(SettingsFile, IsOf82BytesAndKeepsEveryFieldInItsPlace)
 {
-    const Settings written = {LANGUAGE_FRENCH, 0, 999, 12.5f, 7, 4.0, 3.0};
     const Table<std::string, TEAM_COUNT> names = {"Twelve chars", "Z\xFCrich", "", "D"};
-    settings = written;
+    settings = KNOWN;
     raceSetup.teamName = names;
     ASSERT_TRUE(writeSettings());
     EXPECT_EQ(bytesOfFile("settings"), goldenBytes("settings"));
     settings = {};
     raceSetup = {};
     readSettings();
-    EXPECT_EQ(settings, written);
+    EXPECT_EQ(settings, KNOWN);
     EXPECT_EQ(raceSetup.teamName, names);
 }
 
 TEST_F(SettingsFile, ValuesOutOfRangeGetTheirStartValues)
 {
-    readBytes(bytesOf({.language = 4, .smooth = 2, .stepTime = 1000, .stepDelay = 1000}));
-    EXPECT_EQ(settings, (Settings{.stepDistance = 7.5f, .ratioW = 16.0, .ratioH = 10.0}));
-    EXPECT_EQ(raceSetup.teamName[0], "Lions");
-    readBytes(bytesOf({.language = 0xFF, .smooth = 1, .stepTime = -1, .stepDelay = -1}));
-    EXPECT_EQ(settings, (Settings{.stepDistance = 7.5f, .ratioW = 16.0, .ratioH = 10.0}));
-
+    for (const int language : {4, 0xFF}) {
+        readWith(0, {static_cast<std::uint8_t>(language), 2});
+        EXPECT_EQ(settings, (Settings{LANGUAGE_ENGLISH, 1, 999, 12.5f, 7, 4.0, 3.0}));
+    }
+    for (const int number : {1000, -1}) {
+        readWith(2, bytesWith<std::int32_t>(putInt32, number));
+        EXPECT_EQ(settings.stepTime, 0);
+        readWith(10, bytesWith<std::int32_t>(putInt32, number));
+        EXPECT_EQ(settings, (Settings{LANGUAGE_FRENCH, 0, 999, 12.5f, 200, 4.0, 3.0}));
+    }
     const float nan = std::numeric_limits<float>::quiet_NaN();
     for (const float distance : {999.5f, 1000.0f, -0.5f, HUGE_VALF, nan}) {
-        readBytes(bytesOf({.stepDistance = distance}));
+        readWith(6, bytesWith(putFloat, distance));
         EXPECT_EQ(settings.stepDistance, 10.0f) << distance;
     }
-    for (const double width : {4.0, 0.0, -16.0, HUGE_VAL, static_cast<double>(nan)}) {
-        readBytes(bytesOf({.ratioW = width}));
-        EXPECT_EQ(settings.ratioW, -1.0) << width;
-        EXPECT_EQ(settings.ratioH, -1.0) << width;
+    for (const double width : {5.0, 0.0, -4.0, HUGE_VAL, static_cast<double>(nan)}) {
+        readWith(14, bytesWith(putDouble, width));
+        EXPECT_EQ(settings, (Settings{LANGUAGE_FRENCH, 0, 999, 12.5f, 7, -1.0, -1.0})) << width;
     }
 }
 
@@ -107,26 +95,24 @@ TEST_F(SettingsFile, NamesEndAfterTwelveCharactersAndHoldNoControlCharacters)
 {
     const std::string names = "ABCDEFGHIJKLMNOPQRSTUVWXYZ" +
                               std::string("A\nB\x9B\xE9\0junk..", 13) + std::string(13, '\x01');
-    readBytes(bytesOf({.names = names}));
-    EXPECT_EQ(raceSetup.teamName[0], "ABCDEFGHIJKL");
-    EXPECT_EQ(raceSetup.teamName[1], "NOPQRSTUVWXY");
-    EXPECT_EQ(raceSetup.teamName[2], "AB\xE9");
-    EXPECT_EQ(raceSetup.teamName[3], "");
+    readWith(30, Bytes(names.begin(), names.end()));
+    EXPECT_EQ(raceSetup.teamName,
+              (Table<std::string, TEAM_COUNT>{"ABCDEFGHIJKL", "NOPQRSTUVWXY", "AB\xE9", ""}));
 }
 
 TEST_F(SettingsFile, ShortFilesKeepWhatTheyHold)
 {
-    readBytes({});
-    EXPECT_EQ(settings.language, LANGUAGE_ENGLISH);
-    EXPECT_EQ(settings.smoothMovement, 1);
-    EXPECT_EQ(settings.stepDelay, 0);
-    const Bytes whole = bytesOf({});
+    const std::string whole = goldenBytes("settings");
     for (std::size_t size = 0; size <= whole.size(); ++size) {
-        readBytes(Bytes(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(size)));
-        EXPECT_EQ(settings.language, size >= 1 ? LANGUAGE_DUTCH : LANGUAGE_ENGLISH) << size;
-        EXPECT_EQ(settings.stepDelay, size >= 12 ? 345 : size == 11 ? 345 % 256 : 0) << size;
-        EXPECT_EQ(settings.ratioW, size >= 30 ? 16.0 : -1.0) << size;
-        EXPECT_EQ(raceSetup.teamName[0], std::string("Lions").substr(0, size < 30 ? 0 : size - 30));
+        putBytes("settings", whole.substr(0, size));
+        readSettings();
+        EXPECT_EQ(settings.language, size >= 1 ? LANGUAGE_FRENCH : LANGUAGE_ENGLISH) << size;
+        EXPECT_EQ(settings.smoothMovement, size == 0 ? 1 : 0) << size;
+        EXPECT_EQ(settings.stepTime, size >= 4 ? 999 : size == 3 ? 999 % 256 : 0) << size;
+        EXPECT_EQ(settings.stepDelay, size >= 11 ? 7 : 0) << size;
+        EXPECT_EQ(settings.ratioW, size >= 30 ? 4.0 : -1.0) << size;
+        EXPECT_EQ(raceSetup.teamName[0],
+                  std::string("Twelve chars").substr(0, size < 30 ? 0 : size - 30));
     }
 }
 

@@ -166,6 +166,11 @@ void giveWonCard(int slot, int rider, int value)
     race.wonCardValue[team][slot - SET_CARD_COUNT] = value;
 }
 
+OnTurn onTurn()
+{
+    return {race.currentRider, gameState};
+}
+
 Square squareOfRider(int rider)
 {
     return {race.riders[rider].row, race.riders[rider].lane};

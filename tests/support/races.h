@@ -8,6 +8,7 @@
 #include <initializer_list>
 #include <ostream>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 // Small races for the tests, and the means to play them.
@@ -72,6 +73,10 @@ std::vector<int> spentCards(int team);
 
 // Puts a won card, 14 to 17, into the rider's hand.
 void giveWonCard(int slot, int rider, int value);
+
+// Who is on turn, and what the race waits for.
+using OnTurn = std::pair<int, GameState>;
+OnTurn onTurn();
 
 Square squareOfRider(int rider);
 

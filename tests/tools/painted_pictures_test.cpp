@@ -22,7 +22,7 @@ constexpr int NOISE_MAX = 12; // mean difference of a block's bytes
 
 Picture load(const std::string& path, int width, int height, bool withAlpha = false)
 {
-    Picture picture{.width = width, .height = height};
+    Picture picture{width, height, 3, {}};
     EXPECT_TRUE(loadPicture(path.c_str(), picture, withAlpha)) << path;
     return picture;
 }
