@@ -4,11 +4,7 @@
 #include <filesystem>
 #include <fstream>
 #include <map>
-#include <regex>
 #include <set>
-#include <string>
-#include <string_view>
-#include <vector>
 
 // Folders are floors: the order of the folders is the order of the includes, and within a folder
 // they never run in a circle. A header and its source are one room.
@@ -20,27 +16,21 @@ namespace fs = std::filesystem;
 
 using Rooms = std::map<std::string, std::set<std::string>>;
 
-std::string roomOf(fs::path file)
-{
-    return file.replace_extension().generic_string();
-}
-
 Rooms readRooms()
 {
     Rooms rooms;
+    constexpr std::string_view INCLUDE = "#include \"";
     const fs::path source = fs::path(SOURCE_DIR) / "src";
-    const std::regex include("#include \"(.+)\"");
     for (const auto& entry : fs::recursive_directory_iterator(source)) {
         if (!entry.is_regular_file())
             continue;
-        const std::string room = roomOf(fs::relative(entry.path(), source));
+        const std::string room = fs::relative(entry.path(), source).replace_extension();
         std::ifstream file(entry.path());
         rooms[room];
-        for (std::string line; std::getline(file, line);) {
-            std::smatch match;
-            if (std::regex_search(line, match, include) && roomOf(match[1].str()) != room)
-                rooms[room].insert(roomOf(match[1].str()));
-        }
+        for (std::string line; std::getline(file, line);)
+            if (line.starts_with(INCLUDE))
+                rooms[room].insert(fs::path(line.substr(INCLUDE.size())).replace_extension());
+        rooms[room].erase(room);
     }
     return rooms;
 }

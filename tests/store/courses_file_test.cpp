@@ -44,15 +44,12 @@ TEST(SavedCourses, CutAndBrokenRecordsDoNoHarm)
     EXPECT_EQ(readSavedCourse(2), "");
 }
 
-TEST(SavedCourses, AFolderOrAPipeOfTheNameIsNoFile)
+TEST(SavedCourses, AFolderOrAPipeOfTheNameHoldsNone)
 {
     const OwnFolder folder;
-    courseText = "64S5F";
     std::filesystem::create_directory("courses");
     EXPECT_EQ(countSavedCourses(), 0);
-    EXPECT_FALSE(saveDesign());
     std::filesystem::remove("courses");
     ASSERT_EQ(mkfifo("courses", 0600), 0);
     EXPECT_EQ(countSavedCourses(), 0);
-    EXPECT_FALSE(saveDesign());
 }

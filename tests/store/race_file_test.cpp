@@ -212,12 +212,10 @@ TEST_F(RaceFile, TheListGrowsStaleWhenTheFolderChanges)
     EXPECT_TRUE(raceListStale());
 }
 
-// More stages than anybody races aren't waited for.
 TEST_F(RaceFile, OfAHugeFileTheFirst9999StagesAreRead)
 {
     putBytes("r.race", golden);
     fs::resize_file("r.race", 100'000'000);
     ASSERT_TRUE(readRace("r.race"));
     EXPECT_EQ(raceSetup.raceStages.size(), 9999u);
-    EXPECT_EQ(raceSetup.raceStages[0].slots, FIRST_STAGE);
 }
