@@ -74,22 +74,6 @@ TEST(Geometry, SquaresLieOnTheirPlaceAndFaceTheirWay)
     EXPECT_FLOAT_EQ(curveRowOfSquare(bend, 13, 4), 8.5f + 5.0f * 7 / 8);
 }
 
-TEST(Geometry, EveryRealSquareOfEveryCourseLiesOnTheSheet)
-{
-    for (const std::string_view text : fixedCourses) {
-        setUpRace(text, {});
-        for (int row = 0; row < course.courseRowCount; ++row)
-            for (int lane = 0; lane < COURSE_LANES; ++lane) {
-                if (!isRealSquare(squareAt(row, lane)))
-                    continue;
-                const BoardPoint at = boardPointOfSquare(row, lane, race.riders[0].heading);
-                EXPECT_TRUE(at.x > 20 && at.x < BOARD_WIDTH - 20 && at.y > 20 &&
-                            at.y < BOARD_HEIGHT - 20)
-                    << text << " row " << row << " lane " << lane;
-            }
-    }
-}
-
 // Where the pieces of the road don't join, a rider in motion must neither freeze nor jump nor turn.
 TEST(Animation, CarriesRidersEvenlyAlongEveryLane)
 {

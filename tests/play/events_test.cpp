@@ -39,6 +39,16 @@ static void apply(int card, bool person, Square square = FLAT)
     applyEventCard();
 }
 
+struct Moves {
+    int budget, total, extra, bonus;
+    friend bool operator==(const Moves&, const Moves&) = default;
+};
+
+static Moves moves()
+{
+    return {race.moveBudget, race.movesTotal, race.extraMoves, race.bonusMoves};
+}
+
 // The person who is asked hands in these cards.
 static void pay(std::initializer_list<int> slots)
 {
@@ -202,8 +212,7 @@ TEST(EventCard, AFreeCardAndAnExtraDieAreABonusForComputerRiders)
         throwExtraDie(); // which only a person is asked to do
         EXPECT_EQ(gameState, person ? STATE_MOVE : STATE_ANIMATE);
         EXPECT_EQ(race.extraDie, 4);
-        EXPECT_EQ(race.moveBudget, 7 + 4);
-        EXPECT_EQ(race.movesTotal, 7 + 4);
+        EXPECT_EQ(moves(), (Moves{11, 11, 0, 0}));
     }
 }
 
@@ -216,9 +225,8 @@ TEST(EventCard, ExtraSpacesRaiseTheTotalOfComputerRidersOnly)
             SCOPED_TRACE(card);
             apply(card, person);
             EXPECT_EQ(gameState, person ? STATE_MOVE : STATE_ANIMATE);
-            EXPECT_EQ(race.extraMoves, spaces[card - 21]);
-            EXPECT_EQ(race.moveBudget, 7 + spaces[card - 21]); // the way ahead is free
-            EXPECT_EQ(race.movesTotal, person ? 7 : 7 + spaces[card - 21]);
+            const int more = spaces[card - 21];
+            EXPECT_EQ(moves(), (Moves{7 + more, person ? 7 : 7 + more, more, 0}));
             EXPECT_EQ(race.breakaway, alone[card - 21]);
         }
     hold(21, true);
@@ -237,15 +245,11 @@ TEST(EventCard, SpacesForACardArePaidByPersonsAsTheyChooseAndByComputerRidersAtO
     EXPECT_EQ(race.handInCards, (Pair{2, -1})); // one is the price
     confirmHandIn();
     EXPECT_EQ(gameState, STATE_MOVE);
-    EXPECT_EQ(race.moveBudget, 7 + 4);
-    EXPECT_EQ(race.extraMoves, 4);
-    EXPECT_EQ(race.movesTotal, 7);
+    EXPECT_EQ(moves(), (Moves{11, 7, 4, 0}));
 
     apply(PAID_SPACES, false);
     EXPECT_EQ(gameState, STATE_ANIMATE);
-    EXPECT_EQ(race.movesTotal, 7 + 4);
-    EXPECT_EQ(race.moveBudget, 7 + 4);
-    EXPECT_EQ(race.extraMoves, 4);
+    EXPECT_EQ(moves(), (Moves{11, 11, 4, 0}));
     EXPECT_EQ(spentCards(0), std::vector{0}); // the first, whatever its value
 }
 

@@ -9,11 +9,10 @@
 using Teams = std::vector<int>;
 
 // A race of persons that waits for the throw of the first team.
-static void waitForOrderThrow()
+void waitForOrderThrow()
 {
-    startSeededRace(ONE_LAP, 1);
-    for (int team = 0; team < TEAM_COUNT; ++team)
-        makeHuman(team);
+    setUpPersonsRace(ONE_LAP, {});
+    race.currentRider = 0;
     race.teamThrow = filled<int, TEAM_COUNT>(-1);
     gameState = STATE_ORDER_THROW;
 }
@@ -34,18 +33,18 @@ static Teams teamsAskedFor(std::initializer_list<int> sums)
     return asked;
 }
 
-// The team has won the throw.
-static void waitForPlacing(int team, bool persons, std::string_view text = ONE_LAP)
+// The team of persons has won the throw.
+void waitForPlacing(int team, std::string_view text = ONE_LAP)
 {
     startSeededRace(text, 1);
     for (Rider& rider : race.riders)
-        rider.isHuman = persons;
+        rider.isHuman = 1;
     race.teamThrow = {2, 2, 2, 2};
     race.teamThrow[team] = 12;
     afterOrderThrow();
 }
 
-static void placeOn(int row, int lane)
+void placeOn(int row, int lane)
 {
     race.placingRow = row;
     race.placingLane = lane;
@@ -87,7 +86,7 @@ TEST(OrderThrow, OnlyTheTiedThrowAgain)
 
 TEST(Placing, TheTeamThatWonLeadsEachCycle)
 {
-    waitForPlacing(2, true);
+    waitForPlacing(2);
     std::vector<int> placed;
     while (gameState == STATE_PLACE_HUMAN && placed.size() < RIDER_COUNT) {
         placed.push_back(race.currentRider);
@@ -100,7 +99,7 @@ TEST(Placing, TheTeamThatWonLeadsEachCycle)
 
 TEST(Placing, OneOfATeamInALane)
 {
-    waitForPlacing(0, true);
+    waitForPlacing(0);
     placeOn(4, 2); // behind the start rows
     placeOn(0, 5); // beside the road
     EXPECT_EQ(race.currentRider, 0);
@@ -124,7 +123,7 @@ TEST(Placing, OneOfATeamInALane)
 TEST(Placing, TheCursorStaysOnTheRoad)
 {
     for (const bool start2 : {false, true}) {
-        waitForPlacing(0, true, start2 ? FROM_START_2 : ONE_LAP);
+        waitForPlacing(0, start2 ? FROM_START_2 : ONE_LAP);
         const int right = start2 ? 4 : 0;
         EXPECT_EQ(race.placingLane, right);
         movePlacingCursor(-1, -1);

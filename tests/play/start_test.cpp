@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <cstdlib>
 
 // Two persons' teams have ridden a race, with everything in use that a race can use.
@@ -49,10 +50,8 @@ TEST(Start, OfASecondRaceIsAsFreshAsOfTheFirst)
     EXPECT_FALSE(race.breakaway || race.bonusMoves || race.extraMoves);
     EXPECT_EQ((Square{race.placingRow, race.placingLane}), (Square{0, 4}));
     EXPECT_EQ(course.courseOccupant, gridOf(-1));
-    EXPECT_EQ(view.viewMode, VIEW_FLAT);
-    EXPECT_EQ(view.cameraIndex, 1);
-    EXPECT_EQ(view.otherCameraIndex, 3);
-    EXPECT_EQ(view.shownTeam, 0);
+    EXPECT_EQ((std::array{view.viewMode, view.cameraIndex, view.otherCameraIndex, view.shownTeam}),
+              (std::array<int, 4>{VIEW_FLAT, 1, 3, 0}));
     const auto cards = deck.eventDeck;
     startSeededRace(FROM_START_2, 5);
     EXPECT_EQ(cards, deck.eventDeck); // shuffled anew from the printed order

@@ -67,23 +67,19 @@ bool fails(Call call = PLAIN)
 } // namespace
 
 extern "C" {
-#define WRAP(call, parameters, arguments)                                                          \
+#define WRAP(call, parameters, arguments, first)                                                   \
     int __real_##call parameters;                                                                  \
     int __wrap_##call parameters                                                                   \
     {                                                                                              \
+        first;                                                                                     \
         return fails() ? -1 : __real_##call arguments;                                             \
     }
-WRAP(stat, (const char* name, struct stat* status), (name, status))
-WRAP(fstat, (int file, struct stat* status), (file, status))
-WRAP(ftruncate, (int file, off_t size), (file, size))
-
-int __real_rename(const char* from, const char* to);
-int __wrap_rename(const char* from, const char* to)
-{
-    EXPECT_FALSE(bytesAtRisk);
-    nameAtRisk = true;
-    return fails() ? -1 : __real_rename(from, to);
-}
+WRAP(stat, (const char* name, struct stat* status), (name, status), )
+WRAP(fstat, (int file, struct stat* status), (file, status), )
+WRAP(ftruncate, (int file, off_t size), (file, size), )
+WRAP(mkostemps, (char* name, int suffix, int flags), (name, suffix, flags), nameAtRisk = true)
+WRAP(rename, (const char* from, const char* to), (from, to), EXPECT_FALSE(bytesAtRisk);
+     nameAtRisk = true)
 
 int __real_open(const char* name, int flags, mode_t mode);
 int __wrap_open(const char* name, int flags, ...)
@@ -118,13 +114,6 @@ int __wrap_fsync(int file)
         return -1;
     (S_ISDIR(status.st_mode) ? nameAtRisk : bytesAtRisk) = false;
     return 0;
-}
-
-int __real_mkostemps(char* name, int suffix, int flags);
-int __wrap_mkostemps(char* name, int suffix, int flags)
-{
-    nameAtRisk = true;
-    return fails() ? -1 : __real_mkostemps(name, suffix, flags);
 }
 
 int __real_close(int file);

@@ -35,26 +35,14 @@ void startSeededRace(std::string_view text, unsigned seed)
     startRace();
 }
 
-static void leaveEveryoneOut()
-{
-    for (Rider& rider : race.riders) {
-        rider.row = course.finishRow + 1;
-        rider.lane = 0;
-        rider.finished = rider.hasMoved = 1;
-    }
-}
-
 void setUpRace(std::string_view text, const std::vector<Placed>& placed)
 {
     startSeededRace(text, 1);
-    leaveEveryoneOut();
-    for (const Placed& one : placed) {
-        Rider& rider = race.riders[one.rider];
-        rider.row = one.row;
-        rider.lane = one.lane;
-        rider.finished = 0;
-        rider.hasMoved = one.hasMoved;
-        course.courseOccupant[one.row][one.lane] = one.rider;
+    for (Rider& rider : race.riders)
+        rider = {.row = course.finishRow + 1, .lane = 0, .hasMoved = 1, .finished = 1};
+    for (const auto& [rider, row, lane, hasMoved] : placed) {
+        race.riders[rider] = {.row = row, .lane = lane, .hasMoved = hasMoved};
+        course.courseOccupant[row][lane] = rider;
     }
     race.roundNumber = 2;
     race.currentRider = -1;
@@ -164,19 +152,4 @@ void giveWonCard(int slot, int rider, int value)
     race.cardUsed[team][slot] = CARD_AVAILABLE;
     race.wonCardRider[team][slot - SET_CARD_COUNT] = rider;
     race.wonCardValue[team][slot - SET_CARD_COUNT] = value;
-}
-
-OnTurn onTurn()
-{
-    return {race.currentRider, gameState};
-}
-
-Square squareOfRider(int rider)
-{
-    return {race.riders[rider].row, race.riders[rider].lane};
-}
-
-int occupant(int row, int lane)
-{
-    return course.courseOccupant[row][lane];
 }

@@ -76,12 +76,21 @@ void giveWonCard(int slot, int rider, int value);
 
 // Who is on turn, and what the race waits for.
 using OnTurn = std::pair<int, GameState>;
-OnTurn onTurn();
+inline OnTurn onTurn()
+{
+    return {race.currentRider, gameState};
+}
 
-Square squareOfRider(int rider);
+inline Square squareOfRider(int rider)
+{
+    return {race.riders[rider].row, race.riders[rider].lane};
+}
 
 // The rider who holds exactly this square, or -1.
-int occupant(int row, int lane);
+inline int occupant(int row, int lane)
+{
+    return course.courseOccupant[row][lane];
+}
 
 inline void PrintTo(const Square& square, std::ostream* out)
 {
