@@ -1,19 +1,10 @@
 #include "ai/computer_turn.h"
 
-#include "app/game_state.h"
 #include "play/turn_cycle.h"
 #include "support/races.h"
 #include "support/scripted_rand.h"
 
 #include <gtest/gtest.h>
-
-namespace
-{
-
-constexpr std::string_view ONE_LAP = "01S23S4S5F12"; // finish row 114
-using Cards = Table<int, 2>;
-
-} // namespace
 
 TEST(ComputerTurn, PlaysNoCardsInTheFirstRound)
 {
@@ -21,13 +12,13 @@ TEST(ComputerTurn, PlaysNoCardsInTheFirstRound)
         setUpRace(ONE_LAP, {{0, 106, 5}});
         race.roundNumber = round;
         nextTurn();
-        EXPECT_EQ(race.playedCards, (round == 1 ? Cards{-1, -1} : Cards{0, 1}));
+        EXPECT_EQ(race.playedCards, (round == 1 ? Pair{-1, -1} : Pair{0, 1}));
     }
 }
 
 TEST(ComputerTurn, BreaksAwayUnlessAQuarterOfThoseBehindAreTeamMates)
 {
-    const auto breaksAway = [](std::initializer_list<Placed> placed) {
+    const auto breaksAway = [](const std::vector<Placed>& placed) {
         setUpRace(ONE_LAP, placed);
         nextTurn();
         return race.breakaway == 1;
@@ -36,7 +27,7 @@ TEST(ComputerTurn, BreaksAwayUnlessAQuarterOfThoseBehindAreTeamMates)
     EXPECT_FALSE(breaksAway({{0, 106, 5}, {4, 105, 5}, {1, 104, 5}, {8, 103, 5}, {12, 102, 5}}));
     EXPECT_TRUE(breaksAway(
         {{0, 106, 5}, {4, 105, 5}, {1, 104, 5}, {8, 103, 5}, {12, 102, 5}, {5, 100, 5}}));
-    EXPECT_TRUE(breaksAway({{0, 106, 5}, {4, 105, 5, true}, {1, 104, 5}}));
+    EXPECT_TRUE(breaksAway({{0, 106, 5}, {4, 105, 5, MOVED}, {1, 104, 5}}));
 }
 
 TEST(ComputerTurn, EndsWhereTeamMatesCanFollow)
@@ -54,7 +45,7 @@ TEST(ComputerTurn, WaitsForTheOkThatPersonsGiveToo)
     for (const int second : {4, 3}) {
         setUpRace(ONE_LAP, {{0, 43, 2}});
         raceSetup.eventCardsOn = true;
-        race.cardUsed[0] = filled<int, CARD_SLOT_COUNT>(CARD_SPENT);
+        leaveCards(0, {});
         const ScriptedRand script{raceThrow(3, second)};
         nextTurn();
         EXPECT_EQ(gameState, second == 4 ? STATE_EVENT_CARD : STATE_NO_MOVE);

@@ -1,19 +1,15 @@
 #include "ai/route_search.h"
 
-#include "board/course.h"
 #include "board/designer.h"
 #include "race/step_rule.h"
 #include "support/races.h"
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <set>
 
-namespace
-{
-
-RouteBest search(Square from, int thrown, bool simulateFollowers)
+// The best route of rider 0 with a throw of so many.
+static RouteBest search(Square from, int thrown, bool simulateFollowers = false)
 {
     race.currentRider = 0;
     race.movesTotal = thrown;
@@ -25,17 +21,16 @@ RouteBest search(Square from, int thrown, bool simulateFollowers)
     return best;
 }
 
-struct Case {
-    Square from;
-    int thrown;
-    bool simulate;
-    std::vector<Placed> others;
-    Square best;
-    const char* path;
-};
+// The furthest row of a rider with so many moves, alone on the road.
+static int rowWalkedTo(Square from, int moves)
+{
+    RouteBest best;
+    findRoute(from, moves, {.rider = 0, .reachOnly = true}, best);
+    return best.row;
+}
 
 // Every square within a number of moves, by trying all ways.
-void collect(Square at, int moves, std::set<std::pair<int, int>>& reached)
+static void collect(Square at, int moves, std::set<std::pair<int, int>>& reached)
 {
     reached.insert({at.row, at.lane});
     if (moves == 0)
@@ -43,26 +38,6 @@ void collect(Square at, int moves, std::set<std::pair<int, int>>& reached)
     for (const char letter : {'R', 'L', 'M'})
         if (const Square to = stepTarget(at.row, at.lane, letter, false); to != NO_STEP)
             collect(to, moves - 1, reached);
-}
-
-} // namespace
-
-TEST(RouteSearch, ReachOfKnownSquares)
-{
-    struct {
-        int row, lane, reach12, reach11;
-    } const known[] = {{0, 0, 15, 14},  {14, 4, 32, 31}, {24, 3, 41, 39},
-                       {30, 2, 47, 44}, {44, 2, 64, 63}, {60, 4, 75, 74}};
-    setUpRace("01S23S4S5F12", {});
-    for (const auto& square : known) {
-        EXPECT_EQ(course.reach12[square.row][square.lane], square.reach12) << square.row;
-        EXPECT_EQ(course.reach11[square.row][square.lane], square.reach11) << square.row;
-    }
-    setUpRace("01S23S7S8F12", {});
-    EXPECT_EQ(course.reach12[14][1], 32);
-    EXPECT_EQ(course.reach11[14][1], 31);
-    EXPECT_EQ(course.reach12[89][3], 98);
-    EXPECT_EQ(course.reach11[89][3], 96);
 }
 
 // The reach tables come from one pass over the course; the walk must agree square by square.
@@ -73,51 +48,52 @@ TEST(RouteSearch, ReachTablesAgreeWithTheWalk)
         for (int row = 0; row < course.courseRowCount; ++row)
             for (int lane = 0; lane < COURSE_LANES; ++lane) {
                 const int modifier = squareAt(row, lane);
-                if (!isRealSquare(modifier)) {
-                    EXPECT_EQ(course.reach12[row][lane], -1);
-                    continue;
-                }
-                RouteBest far12;
-                RouteBest far11;
-                findRoute({row, lane}, 12 + modifier, {.rider = 0, .reachOnly = true}, far12);
-                findRoute({row, lane}, 11 + modifier, {.rider = 0, .reachOnly = true}, far11);
-                ASSERT_EQ(course.reach12[row][lane], far12.row) << text << row << ',' << lane;
-                ASSERT_EQ(course.reach11[row][lane], far11.row) << text << row << ',' << lane;
+                const bool real = isRealSquare(modifier);
+                ASSERT_EQ(course.reach12[row][lane],
+                          real ? rowWalkedTo({row, lane}, 12 + modifier) : -1)
+                    << text << row << ',' << lane;
+                ASSERT_EQ(course.reach11[row][lane],
+                          real ? rowWalkedTo({row, lane}, 11 + modifier) : -1)
+                    << text << row << ',' << lane;
             }
     }
 }
 
 TEST(RouteSearch, FindsTheKnownRoutes)
 {
-    const Case cases[] = {
-        {{7, 2}, 8, false, {}, {18, 3}, "MRMMMMMM"},
-        {{7, 2}, 8, false, {{1, 14, 3, true}}, {18, 3}, "MRMLMMMR"},
-        {{27, 4}, 6, false, {}, {31, 4}, "MMMM"},
-        {{100, 5}, 5, false, {{1, 105, 5, true}, {2, 106, 5, true}}, {106, 7}, "MMMRR"},
-        {{104, 5}, 8, true, {{1, 103, 5}, {4, 102, 5}, {8, 101, 5}}, {112, 7}, "MMMMMMRR"},
+    const struct {
+        Square from;
+        int thrown;
+        std::vector<Placed> others;
+        Square best;
+        const char* path;
+    } cases[] = {
+        {{7, 2}, 8, {}, {18, 3}, "MRMMMMMM"},
+        {{7, 2}, 8, {{1, 14, 3, MOVED}}, {18, 3}, "MRMLMMMR"},
+        {{27, 4}, 6, {}, {31, 4}, "MMMM"},
+        {{100, 5}, 5, {{1, 105, 5, MOVED}, {2, 106, 5, MOVED}}, {106, 7}, "MMMRR"},
     };
-    for (const Case& known : cases) {
-        setUpRace("01S23S4S5F12", {});
-        for (const Placed& other : known.others) {
-            race.riders[other.rider].row = other.row;
-            race.riders[other.rider].lane = other.lane;
-            race.riders[other.rider].hasMoved = other.hasMoved;
-            course.courseOccupant[other.row][other.lane] = other.rider;
-        }
-        const RouteBest best = search(known.from, known.thrown, known.simulate);
-        EXPECT_EQ(best.row, known.best.row);
-        EXPECT_EQ(best.lane, known.best.lane);
+    for (const auto& known : cases) {
+        setUpRace(ONE_LAP, known.others);
+        const RouteBest best = search(known.from, known.thrown);
+        EXPECT_EQ((Square{best.row, best.lane}), known.best);
         EXPECT_EQ(best.path.text(), known.path);
-        if (known.thrown == 6) {
-            EXPECT_EQ(best.sprint, 1);
-        }
-        if (!known.simulate)
-            continue;
-        EXPECT_EQ(best.share, 0.5);
-        EXPECT_EQ(race.followerPlan[1], 126);
-        EXPECT_EQ(race.followerPlan[4], 125);
-        EXPECT_EQ(race.followerPlan[8], -1);
     }
+}
+
+TEST(RouteSearch, WeighsWhoWouldFollow)
+{
+    setUpRace(ONE_LAP, {{1, 103, 5}, {4, 102, 5}, {8, 101, 5}});
+    const RouteBest best = search({104, 5}, 8, true);
+    EXPECT_EQ((Square{best.row, best.lane}), (Square{112, 7}));
+    EXPECT_EQ(best.path.text(), "MMMMMMRR");
+    EXPECT_EQ(best.share, 0.5);
+    EXPECT_EQ(race.followerPlan[1], 126);
+    EXPECT_EQ(race.followerPlan[4], 125);
+    EXPECT_EQ(race.followerPlan[8], -1);
+    setUpRace(ONE_LAP, {});
+    race.breakaway = 1;
+    EXPECT_EQ(search({104, 5}, 8, true).share, 0.25);
 }
 
 // A search for a target finds a way exactly where trying all ways does, also past riders and walls.
@@ -125,7 +101,7 @@ TEST(RouteSearch, ReachesWhatTryingAllWaysReaches)
 {
     for (const std::string_view text : fixedCourses) {
         setUpRace(text, {{1, 8, 5}, {2, 9, 6}, {3, 12, 3}, {4, 14, 2}, {5, 31, 3}, {6, 33, 2}});
-        for (const int row : {2, 5, 7, 11, 16, 27, 29, 45, 54}) {
+        for (const int row : {2, 5, 7, 11, 16, 27, 29, 45, 54})
             for (int lane = 0; lane < COURSE_LANES; ++lane) {
                 if (!isRealSquare(squareAt(row, lane)))
                     continue;
@@ -133,37 +109,22 @@ TEST(RouteSearch, ReachesWhatTryingAllWaysReaches)
                 collect({row, lane}, 5, reached);
                 for (int to = row + 1; to < row + 12; ++to)
                     for (int toLane = 0; toLane < COURSE_LANES; ++toLane) {
-                        if (!isRealSquare(squareAt(to, toLane)))
-                            continue;
-                        ASSERT_EQ(reachesSquare(0, {row, lane}, {to, toLane}, 5),
+                        const bool real = isRealSquare(squareAt(to, toLane));
+                        ASSERT_EQ(real && reachesSquare(0, {row, lane}, {to, toLane}, 5),
                                   reached.contains({to, toLane}))
                             << text << ' ' << row << ',' << lane << " to " << to << ',' << toLane;
                     }
             }
-        }
     }
-}
-
-TEST(RouteSearch, BoxedInRidersStayAndNoBudgetEvaluatesNothing)
-{
-    setUpRace("01S23S4S5F12", {{1, 3, 1}, {2, 3, 2}, {3, 3, 3}});
-    const RouteBest boxed = search({2, 2}, 6, false);
-    EXPECT_EQ(boxed.row, 2);
-    EXPECT_TRUE(boxed.path.empty());
-    RouteBest untouched;
-    findRoute({2, 2}, -1, {.rider = 0}, untouched);
-    EXPECT_EQ(untouched.row, -1);
-    EXPECT_FALSE(reachesSquare(0, {2, 2}, {2, 2}, 6)); // where he stands
 }
 
 // Past a sprint counts as long as its third place is open.
 TEST(RouteSearch, AnOpenSprintBeatsAnyReach)
 {
-    setUpRace("01S23S4S5F12", {});
-    EXPECT_EQ(search({27, 4}, 6, false).sprint, 1);
+    setUpRace(ONE_LAP, {{1, 3, 1}, {2, 3, 2}, {3, 3, 3}});
+    EXPECT_TRUE(search({2, 2}, 6).path.empty()); // boxed in
+    EXPECT_EQ(search({27, 4}, 6).sprint, 1);
     race.resultSlots[2] = 9;
-    const RouteBest taken = search({27, 4}, 6, false);
+    const RouteBest taken = search({27, 4}, 6);
     EXPECT_GE(course.reach12[taken.row][taken.lane], course.reach12[31][4]);
-    race.breakaway = 1;
-    EXPECT_EQ(search({104, 5}, 8, true).share, 0.25);
 }

@@ -5,22 +5,23 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
-#include <initializer_list>
 #include <string>
 
-namespace
-{
-
-void design(std::initializer_list<int> choices)
+// The loop from "Start 1" on with these marks.
+static void design(std::string_view text)
 {
     startDesign();
-    for (const int choice : choices) {
-        chooseSection(choice);
-        addSection();
+    for (const char letter : text.substr(1)) {
+        if (letter == 'S')
+            toggleSprint();
+        else if (letter == 'F')
+            toggleFinish();
+        else
+            addSection();
     }
+    addSection();
+    EXPECT_EQ(courseText, text);
 }
-
-} // namespace
 
 TEST(Designer, OffersTheSectionsThatMayFollow)
 {
@@ -50,7 +51,6 @@ TEST(Designer, TheFinishWinsOverASprintAndEndsTheDesign)
     toggleSprint();
     toggleFinish();
     addSection();
-    EXPECT_EQ(courseText, "01F");
     EXPECT_TRUE(designFinished());
     EXPECT_FALSE(courseScreens.designSprintChecked || courseScreens.designFinishChecked);
     EXPECT_EQ(nextSections().designChoiceCount, 0);
@@ -61,26 +61,18 @@ TEST(Designer, TheFinishWinsOverASprintAndEndsTheDesign)
 
 TEST(Designer, TakesSectionsBackWithTheirMarks)
 {
-    design({0, 0});
-    toggleSprint();
-    addSection();
-    EXPECT_EQ(courseText, "012S");
-    EXPECT_EQ(designSprintCount(), 1);
-    toggleFinish();
-    addSection();
-    EXPECT_EQ(courseText, "012S3F");
-    undoSection();
-    EXPECT_EQ(courseText, "012S");
-    EXPECT_TRUE(courseScreens.designFinishChecked);
-    undoSection();
-    EXPECT_EQ(courseText, "01");
-    EXPECT_TRUE(courseScreens.designSprintChecked);
-    EXPECT_FALSE(courseScreens.designFinishChecked);
-    undoSection();
-    EXPECT_FALSE(courseScreens.designSprintChecked);
-    undoSection();
-    EXPECT_EQ(courseText, "");
-    undoSection();
+    design("012S3F");
+    const auto undo = [](const char* left, bool sprint, bool finish) {
+        undoSection();
+        EXPECT_EQ(courseText, left);
+        EXPECT_EQ(courseScreens.designSprintChecked, sprint) << left;
+        EXPECT_EQ(courseScreens.designFinishChecked, finish) << left;
+    };
+    undo("012S", false, true);
+    undo("01", true, false);
+    undo("0", false, false);
+    undo("", false, false);
+    undo("", false, false);
     EXPECT_EQ(nextSections().designChoiceCount, 2);
 }
 
@@ -89,14 +81,12 @@ TEST(Designer, HasThreeSprintsAndFourLapsAtTheMost)
     startDesign();
     for (int i = 0; i < 40 && !designFinished(); ++i) {
         toggleSprint();
+        EXPECT_EQ(courseScreens.designSprintChecked, sprintChoosable());
         addSection();
     }
     EXPECT_EQ(courseText, "01S2S3S45123451234512345F");
+    EXPECT_EQ(designSprintCount(), 3);
     EXPECT_TRUE(isFinishedDesign(courseText));
-    appendRunOut();
-    EXPECT_EQ(courseText, "01S2S3S45123451234512345F12");
-    appendRunOut(); // only behind the finish
-    EXPECT_EQ(courseText.size(), 27u);
 }
 
 TEST(Designer, RunsOutOntoTheNextTwoSections)
@@ -106,7 +96,9 @@ TEST(Designer, RunsOutOntoTheNextTwoSections)
                                 {"012345F", "012345F12"},
                                 {"67F", "67F81"},
                                 {"678F", "678F12"},
-                                {"6451234F", "6451234F51"}};
+                                {"6451234F", "6451234F51"},
+                                {"012", "012"},
+                                {"01F23", "01F23"}}; // only behind the finish
     for (const auto& [from, to] : designs) {
         courseText = from;
         appendRunOut();

@@ -1,6 +1,5 @@
 #include "board/geometry.h"
 
-#include "app/game_state.h"
 #include "app/settings.h"
 #include "board/designer.h"
 #include "play/animation.h"
@@ -19,11 +18,6 @@ namespace
 {
 
 constexpr float TICK = 10.0f;
-
-float distance(BoardPoint a, BoardPoint b)
-{
-    return std::hypot(a.x - b.x, a.y - b.y);
-}
 
 // The squares of a lane from a row on, as far as the lane runs without a break.
 std::vector<Square> laneFrom(int row, int lane)
@@ -61,46 +55,23 @@ template <typename Visit> void carry(const std::vector<Square>& squares, Visit v
 
 } // namespace
 
-TEST(Geometry, SquaresOfABendAreSpreadEvenlyAlongTheirLane)
-{
-    setUpRace("01S23S4S5F12", {});
-    const CurvePiece& bend = course.courseCurves.front(); // rows 8.5 to 13.5 of the course
-    // Lane 0 has two squares there, lane 4 four.
-    EXPECT_FLOAT_EQ(curveRowOfSquare(bend, 10, 0), 8.5f + 5.0f / 4);
-    EXPECT_FLOAT_EQ(curveRowOfSquare(bend, 13, 0), 8.5f + 5.0f * 3 / 4);
-    EXPECT_FLOAT_EQ(curveRowOfSquare(bend, 9, 4), 8.5f + 5.0f / 8);
-    EXPECT_FLOAT_EQ(curveRowOfSquare(bend, 13, 4), 8.5f + 5.0f * 7 / 8);
-}
-
 TEST(Geometry, SquaresLieOnTheirPlaceAndFaceTheirWay)
 {
-    setUpRace("01S23S4S5F12", {});
+    setUpRace(ONE_LAP, {});
     double heading = 0.0;
-    const BoardPoint start = boardPointOfSquare(0, 0, heading);
-    EXPECT_FLOAT_EQ(start.x, 1117.0f - 393.0f / 8);
-    EXPECT_FLOAT_EQ(start.y, 210.0f - 183.0f / 10);
+    boardPointOfSquare(0, 0, heading);
     EXPECT_NEAR(heading, -std::numbers::pi, 1e-6);
     // On the border of two pieces the earlier one serves: row 10.5 of section A runs downward.
     boardPointOnPath(16.5f, 2.0f, heading);
     EXPECT_NEAR(heading, std::numbers::pi / 2, 1e-6);
     boardPointOfSquare(60, 5, heading); // cobbles of D, to the right
     EXPECT_NEAR(heading, 0.0, 0.1);
-}
 
-TEST(Geometry, EveryRealSquareOfEveryCourseLiesOnTheSheet)
-{
-    for (const std::string_view text : fixedCourses) {
-        setUpRace(text, {});
-        for (int row = 0; row < course.courseRowCount; ++row)
-            for (int lane = 0; lane < COURSE_LANES; ++lane) {
-                if (!isRealSquare(squareAt(row, lane)))
-                    continue;
-                const BoardPoint at = boardPointOfSquare(row, lane, race.riders[0].heading);
-                EXPECT_TRUE(at.x > 20 && at.x < BOARD_WIDTH - 20 && at.y > 20 &&
-                            at.y < BOARD_HEIGHT - 20)
-                    << text << " row " << row << " lane " << lane;
-            }
-    }
+    // Those of a bend are spread evenly along their lane. From row 8.5 to 13.5 lane 0 has two
+    // squares, lane 4 four.
+    const CurvePiece& bend = course.courseCurves.front();
+    EXPECT_FLOAT_EQ(curveRowOfSquare(bend, 13, 0), 8.5f + 5.0f * 3 / 4);
+    EXPECT_FLOAT_EQ(curveRowOfSquare(bend, 13, 4), 8.5f + 5.0f * 7 / 8);
 }
 
 // Where the pieces of the road don't join, a rider in motion must neither freeze nor jump nor turn.
@@ -108,60 +79,51 @@ TEST(Animation, CarriesRidersEvenlyAlongEveryLane)
 {
     for (const std::string_view text : fixedCourses) {
         setUpRace(text, {});
-        for (int lane = 0; lane < COURSE_LANES; ++lane) {
+        race.riders[0].finished = 0;
+        for (int lane = 0; lane < COURSE_LANES; ++lane)
             for (int row = 0; row < course.courseRowCount; ++row) {
                 if (squareAt(row, lane) == NO_SQUARE || squareAt(row - 1, lane) != NO_SQUARE)
                     continue;
-                const auto squares = laneFrom(row, lane);
-                if (squares.size() < 2)
-                    continue;
-                race.riders[0].finished = 0;
-                double heading = 0.0;
-                BoardPoint last = boardPointOfSquare(squares[0].row, squares[0].lane, heading);
-                carry(squares, [&](bool setsOut) {
+                Rider last;
+                carry(laneFrom(row, lane), [&](bool setsOut) {
                     const Rider& rider = race.riders[0];
-                    const BoardPoint now = {rider.x, rider.y};
-                    const double turn =
-                        std::remainder(rider.heading - heading, 2 * std::numbers::pi);
+                    SCOPED_TRACE(testing::Message()
+                                 << text << " lane " << lane << " row " << rider.row);
                     if (!setsOut) {
-                        EXPECT_GT(distance(last, now), TICK * 2 / 3)
-                            << text << " lane " << lane << " row " << rider.row;
-                        EXPECT_LT(distance(last, now), TICK * 4 / 3)
-                            << text << " lane " << lane << " row " << rider.row;
-                        EXPECT_LT(std::abs(turn), 0.7)
-                            << text << " lane " << lane << " row " << rider.row;
+                        const float way = std::hypot(rider.x - last.x, rider.y - last.y);
+                        EXPECT_GT(way, TICK * 2 / 3);
+                        EXPECT_LT(way, TICK * 4 / 3);
+                        EXPECT_LT(std::abs(std::remainder(rider.heading - last.heading,
+                                                          2 * std::numbers::pi)),
+                                  0.7);
                     }
-                    last = now;
-                    heading = rider.heading;
+                    last = rider;
                 });
             }
-        }
     }
 }
 
 TEST(Animation, StepwiseTakesATickASquareAndOneToSetOut)
 {
-    setUpRace("01S23S4S5F12", {{.rider = 0, .row = 6, .lane = 4}});
+    setUpRace(ONE_LAP, {{0, 6, 4}});
     settings.smoothMovement = 0;
     race.currentRider = 0;
-    race.pathSquares[0] = {6, 4};
-    race.pathSquares[1] = {7, 4};
-    race.pathSquares[2] = {8, 3};
-    race.pathSquares[3] = {10, 3};
+    const Square path[] = {{6, 4}, {7, 4}, {8, 3}, {10, 3}};
+    for (int i = 0; i < 4; ++i)
+        race.pathSquares[i] = {static_cast<float>(path[i].row), static_cast<float>(path[i].lane)};
     race.moveBudget = 3;
     race.breakaway = 1;
     gameState = STATE_ANIMATE;
-    int ticks = 0;
-    const auto underWay = [] { return gameState == STATE_ANIMATE && race.roundNumber == 2; };
-    while (underWay() && ++ticks < 20) {
+    for (const Square& square : path) {
         fakeHost.pendingMs = -1;
         onMoveTimer(0);
-        if (underWay()) {
+        EXPECT_EQ(squareOfRider(0), square);
+        if (square != path[3]) {
+            EXPECT_EQ(race.riderLapCount[0], square.row > 5);
             EXPECT_EQ(fakeHost.pendingMs, DEFAULT_STEP_DELAY + 1);
-            EXPECT_EQ(race.riders[0].row, static_cast<int>(race.pathSquares[ticks - 1].row));
         }
     }
-    EXPECT_EQ(ticks, 4);
+    EXPECT_EQ(race.roundNumber, 3); // the turn is over
 }
 
 TEST(Animation, TicksOfAnotherStateAreDroppedAndOnlyOneIsEverPending)

@@ -1,38 +1,19 @@
 #pragma once
 
-#include <cstddef>
+#include "support/own_folder.h"
+
 #include <cstdint>
 #include <cstdio>
-#include <cstdlib>
-#include <filesystem>
-#include <string>
+#include <unistd.h>
 
 // A target is one reader of files that is given whatever bytes the fuzzer thinks of. The seeds of
 // each lie in corpus/; a file that once did harm joins them.
 
-// A folder in memory, where there is one: thousands of files a second aren't for a disk.
-struct FuzzFolder {
-    FuzzFolder()
-    {
-        std::string name = "/dev/shm/gravelonXXXXXX";
-        if (!mkdtemp(name.data())) {
-            name = "/tmp/gravelonXXXXXX";
-            mkdtemp(name.data());
-        }
-        folder = name;
-        std::filesystem::current_path(folder);
-    }
-    ~FuzzFolder() { std::filesystem::remove_all(folder); }
-    FuzzFolder(const FuzzFolder&) = delete;
-    FuzzFolder& operator=(const FuzzFolder&) = delete;
-
-    std::filesystem::path folder;
-};
-
 // The input as a file of this name, in a folder that lasts as long as the run.
 inline void putInput(const char* fileName, const std::uint8_t* bytes, std::size_t size)
 {
-    static const FuzzFolder folder;
+    // In memory, where that can be: thousands of files a second aren't for a disk.
+    static const OwnFolder folder(access("/dev/shm", W_OK) == 0 ? "/dev/shm" : "/tmp");
     std::FILE* file = std::fopen(fileName, "wb");
     std::fwrite(bytes, 1, size, file);
     std::fclose(file);

@@ -1,109 +1,72 @@
 #include "play/cards.h"
 
-#include "app/game_state.h"
-#include "board/course.h"
-#include "race/card_rules.h"
 #include "support/races.h"
 #include "support/scripted_rand.h"
 
 #include <gtest/gtest.h>
 
-namespace
-{
-
-constexpr std::string_view ONE_LAP = "01S23S4S5F12";
-constexpr Square FLAT = {13, 2};
-constexpr Square COBBLES = {61, 4};  // -1
-constexpr Square MOUNTAIN = {31, 2}; // -3
-constexpr int FIRST_WON = SET_CARD_COUNT;
-
-using Cards = Table<int, 2>;
-using Dice = Table<int, 2>;
+using WonCards = Table<int, WON_CARD_COUNT>;
 
 // A person's rider before his throw, in round 2.
-void turnOf(int rider, Square square)
+static void turnOf(int rider, Square square)
 {
     setUpPersonsRace(ONE_LAP, {{rider, square.row, square.lane}});
     beginPersonsTurn(rider);
 }
 
-void ownWonCard(int slot, int rider, int value)
-{
-    const int team = riderTeam(rider);
-    race.cardUsed[team][slot] = CARD_AVAILABLE;
-    race.wonCardRider[team][slot - FIRST_WON] = rider;
-    race.wonCardValue[team][slot - FIRST_WON] = value;
-}
-
-void pickCards(std::initializer_list<int> slots)
-{
-    for (const int slot : slots)
-        pickCard(slot);
-}
-
-void throwNumber(int number)
-{
-    const ScriptedRand script{number};
-    humanThrow();
-    EXPECT_EQ(script.calls(), 1);
-}
-
-// A person's rider has thrown 7 and is asked for the kind of card he wants.
-void askForKind(int rider, Square square)
+// Which cards lie after these have been picked.
+static Pair laidBy(int rider, Square square, std::initializer_list<int> slots)
 {
     turnOf(rider, square);
-    throwNumber(raceThrow(3, 4));
-    gameState = STATE_EVENT_CARD_KIND;
+    giveWonCard(14, rider, BLUE_CARD);
+    giveWonCard(15, rider, WHITE_CARD);
+    pickCards(slots);
+    return race.playedCards;
 }
 
-} // namespace
+// The person on turn throws 7 and is given a card of this kind.
+static void winCard(int value)
+{
+    throwNumber(raceThrow(3, 4));
+    gameState = STATE_EVENT_CARD_KIND;
+    receiveWonCard(value);
+}
 
 TEST(Cards, ARiderHasHisOwnHisTeamsAndThoseHeWon)
 {
     turnOf(5, FLAT);
-    ownWonCard(14, 5, BLUE_CARD);
-    ownWonCard(15, 6, BLUE_CARD); // a team-mate's
+    giveWonCard(14, 5, BLUE_CARD);
+    giveWonCard(15, 6, BLUE_CARD); // a team-mate's
     race.cardUsed[1][12] = CARD_SPENT;
     race.cardUsed[0][13] = CARD_SPENT; // another team's
-    std::vector<int> playable;
-    for (int slot = 0; slot < CARD_SLOT_COUNT; ++slot)
-        if (cardPlayable(slot))
-            playable.push_back(slot);
-    EXPECT_EQ(playable, (std::vector{4, 5, 10, 11, 13, 14}));
+    std::vector<int> laid;
+    for (int slot = 0; slot < CARD_SLOT_COUNT; ++slot) {
+        pickCard(slot);
+        if (race.playedCards[0] != -1)
+            laid.push_back(race.playedCards[0]);
+        unpickCard(0);
+    }
+    EXPECT_EQ(laid, (std::vector{4, 5, 10, 11, 13, 14}));
     race.roundNumber = 1;
-    EXPECT_FALSE(cardPlayable(4));
+    pickCard(4);
+    EXPECT_EQ(race.playedCards[0], -1);
 }
 
-TEST(Cards, TwoAtTheMostEachOnce)
+TEST(Cards, TheTerrainSaysWhichAndHowMany)
 {
-    turnOf(0, FLAT);
-    pickCards({4, 0, 0, 12, 1}); // 4 is the second rider's
-    EXPECT_EQ(race.playedCards, (Cards{0, 12}));
+    EXPECT_EQ(laidBy(0, FLAT, {4, 0, 0, 12, 1}), (Pair{0, 12})) << "4 is the second rider's";
     EXPECT_EQ(race.cardUsed[0][1], CARD_AVAILABLE);
     unpickCard(0);
     EXPECT_EQ(race.cardUsed[0][0], CARD_AVAILABLE);
     pickCard(3); // into the place that is free
-    EXPECT_EQ(race.playedCards, (Cards{3, 12}));
-}
+    EXPECT_EQ(race.playedCards, (Pair{3, 12}));
 
-TEST(Cards, OnlyWhiteOnAMountain)
-{
-    turnOf(0, MOUNTAIN);
-    ownWonCard(14, 0, BLUE_CARD);
-    ownWonCard(15, 0, WHITE_CARD);
-    pickCards({0, 11, 14, 15, 2});
-    EXPECT_EQ(race.playedCards, (Cards{15, 2}));
-}
-
-TEST(Cards, OneOnCobblesTheDopingCardIncluded)
-{
-    turnOf(0, COBBLES);
-    pickCards({0, 2});
-    EXPECT_EQ(race.playedCards, (Cards{0, -1}));
+    EXPECT_EQ(laidBy(0, MOUNTAIN, {0, 11, 14, 15, 2}), (Pair{15, 2})) << "only white ones";
+    EXPECT_EQ(laidBy(0, COBBLES, {0, 2}), (Pair{0, -1}));
     unpickCard(0);
     race.playedCards = {DOPING_CARD, -1};
     pickCard(2);
-    EXPECT_EQ(race.playedCards, (Cards{DOPING_CARD, -1}));
+    EXPECT_EQ(race.playedCards, (Pair{DOPING_CARD, -1}));
 }
 
 TEST(Cards, LieFastAfterTheThrow)
@@ -114,7 +77,7 @@ TEST(Cards, LieFastAfterTheThrow)
     pickCard(2);
     unpickCard(0);
     toggleBreakaway();
-    EXPECT_EQ(race.playedCards, (Cards{0, -1}));
+    EXPECT_EQ(race.playedCards, (Pair{0, -1}));
     EXPECT_EQ(race.cardUsed[0][0], CARD_SPENT);
     EXPECT_EQ(race.breakaway, 0);
 }
@@ -135,101 +98,88 @@ TEST(Breakaway, NeedsACardAndGoesWithTheLast)
     race.playedCards[1] = DOPING_CARD; // will do, and can't be taken back
     toggleBreakaway();
     unpickCard(1);
-    EXPECT_EQ(race.playedCards, (Cards{-1, DOPING_CARD}));
+    EXPECT_EQ(race.playedCards, (Pair{-1, DOPING_CARD}));
     EXPECT_EQ(race.breakaway, 1);
 }
 
 TEST(Throw, ACardStandsInForItsDie)
 {
-    turnOf(5, FLAT);
-    throwNumber(36 + 8);
-    EXPECT_EQ(race.dice, (Dice{3, 2}));
-
-    turnOf(5, FLAT);
-    pickCard(4); // 6
-    throwNumber(raceThrow(3, 2));
-    EXPECT_EQ(race.dice, (Dice{6, 2}));
+    const auto diceWith = [](std::initializer_list<int> slots, int number) {
+        turnOf(5, FLAT);
+        giveWonCard(16, 5, BLUE_CARD);
+        race.wonCardValue[0][2] = WHITE_CARD; // another team's in the same place
+        pickCards(slots);
+        throwNumber(number);
+        return race.dice;
+    };
+    EXPECT_EQ(diceWith({}, 36 + 8), (Pair{3, 2}));
+    EXPECT_EQ(diceWith({4}, raceThrow(3, 2)), (Pair{6, 2}));
+    EXPECT_EQ(diceWith({13, 16}, raceThrow(3, 2)), (Pair{5, 6}));
 
     turnOf(5, FLAT);
     pickCards({4, 5});
     unpickCard(0);
     throwNumber(raceThrow(3, 2));
-    EXPECT_EQ(race.dice, (Dice{3, 5}));
+    EXPECT_EQ(race.dice, (Pair{3, 5}));
     EXPECT_EQ(race.movesTotal, 8);
-
-    turnOf(5, FLAT);
-    ownWonCard(16, 5, BLUE_CARD);
-    race.wonCardValue[0][2] = WHITE_CARD; // another team's in the same place
-    pickCards({13, 16});
-    throwNumber(raceThrow(3, 2));
-    EXPECT_EQ(race.dice, (Dice{5, 6}));
 
     turnOf(5, FLAT);
     race.playedCards = {-1, DOPING_CARD};
     race.dopingCardValue = 4;
     throwNumber(raceThrow(3, 2));
-    EXPECT_EQ(race.dice, (Dice{3, 4}));
+    EXPECT_EQ(race.dice, (Pair{3, 4}));
 }
 
 TEST(Throw, TheSquareAddsToItAndMayStopTheRider)
 {
-    turnOf(0, MOUNTAIN);
-    throwNumber(raceThrow(1, 2));
-    EXPECT_EQ(race.moveBudget, 0);
-    EXPECT_EQ(gameState, STATE_NO_MOVE);
-
-    turnOf(0, MOUNTAIN);
-    throwNumber(raceThrow(2, 2));
-    EXPECT_EQ(race.moveBudget, 1);
-    EXPECT_EQ(gameState, STATE_MOVE);
+    for (const int second : {2, 3}) {
+        turnOf(0, MOUNTAIN);
+        race.stepsTaken = 4; // of the one before
+        throwNumber(raceThrow(1, second));
+        EXPECT_EQ(race.moveBudget, second - 2);
+        EXPECT_EQ(gameState, second == 2 ? STATE_NO_MOVE : STATE_MOVE);
+        EXPECT_EQ(race.stepsTaken, 0);
+    }
 }
 
-TEST(WonCard, ForLaterGoesToTheFirstFreeSlot)
+TEST(WonCard, IsUsedAtOnceOrGoesToTheFirstFreeSlot)
 {
-    askForKind(5, FLAT);
-    ownWonCard(14, 6, WHITE_CARD);
-    ownWonCard(15, 6, WHITE_CARD);
-    race.cardUsed[1][15] = CARD_SPENT;
-    receiveWonCard(BLUE_CARD);
-    useWonCard(false);
-    EXPECT_EQ(race.cardUsed[1][15], CARD_AVAILABLE);
-    EXPECT_EQ(race.wonCardRider[1], (Table<int, WON_CARD_COUNT>{6, 5, -1, -1}));
-    EXPECT_EQ(race.wonCardValue[1][1], BLUE_CARD);
-    EXPECT_EQ(race.moveBudget, 7);
-}
-
-TEST(WonCard, UsedAtOnceLeavesItsSlotFree)
-{
-    askForKind(5, FLAT);
-    receiveWonCard(WHITE_CARD);
-    useWonCard(true);
-    EXPECT_EQ(race.moveBudget, 12);
-    EXPECT_EQ(race.bonusMoves, WHITE_CARD);
-    EXPECT_EQ(race.movesTotal, 7);
-    EXPECT_EQ(race.cardUsed[1][14], CARD_NONE);
-    EXPECT_EQ(gameState, STATE_MOVE);
+    for (const bool now : {true, false}) {
+        turnOf(5, FLAT);
+        giveWonCard(14, 6, WHITE_CARD);
+        giveWonCard(15, 6, WHITE_CARD);
+        race.cardUsed[1][15] = CARD_SPENT;
+        winCard(BLUE_CARD);
+        EXPECT_EQ(gameState, STATE_EVENT_CARD_WHEN);
+        useWonCard(now);
+        EXPECT_EQ(gameState, STATE_MOVE);
+        EXPECT_EQ(race.cardUsed[1][15], now ? CARD_SPENT : CARD_AVAILABLE);
+        EXPECT_EQ(race.wonCardRider[1], (WonCards{6, 5, -1, -1}));
+        EXPECT_EQ(race.wonCardValue[1][1], BLUE_CARD);
+        EXPECT_EQ(race.moveBudget, now ? 7 + BLUE_CARD : 7);
+        EXPECT_EQ(race.bonusMoves, now ? BLUE_CARD : 0);
+        EXPECT_EQ(race.movesTotal, 7);
+    }
 }
 
 TEST(WonCard, BlueOnAMountainIsKeptUnasked)
 {
-    askForKind(5, MOUNTAIN);
-    receiveWonCard(BLUE_CARD);
-    EXPECT_EQ(gameState, STATE_MOVE);
-    EXPECT_EQ(race.cardUsed[1][14], CARD_AVAILABLE);
-
-    askForKind(5, MOUNTAIN);
-    receiveWonCard(WHITE_CARD);
-    EXPECT_EQ(gameState, STATE_EVENT_CARD_WHEN);
+    for (const int value : {BLUE_CARD, WHITE_CARD}) {
+        turnOf(5, MOUNTAIN);
+        winCard(value);
+        EXPECT_EQ(gameState, value == BLUE_CARD ? STATE_MOVE : STATE_EVENT_CARD_WHEN);
+        EXPECT_EQ(race.cardUsed[1][14], value == BLUE_CARD ? CARD_AVAILABLE : CARD_NONE);
+    }
 }
 
 TEST(WonCard, TheFifthIsLost)
 {
-    askForKind(5, FLAT);
-    for (int slot = FIRST_WON; slot < CARD_SLOT_COUNT; ++slot)
-        ownWonCard(slot, 6, WHITE_CARD);
-    receiveWonCard(BLUE_CARD);
+    turnOf(5, FLAT);
+    for (int slot = SET_CARD_COUNT; slot < CARD_SLOT_COUNT; ++slot)
+        giveWonCard(slot, 6, WHITE_CARD);
+    winCard(BLUE_CARD);
     useWonCard(true);
     EXPECT_EQ(race.moveBudget, 7);
-    EXPECT_EQ(race.wonCardRider[1], (Table<int, WON_CARD_COUNT>{6, 6, 6, 6}));
+    EXPECT_EQ(race.wonCardRider[1], (WonCards{6, 6, 6, 6}));
     EXPECT_EQ(gameState, STATE_MOVE);
 }

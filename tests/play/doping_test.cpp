@@ -1,33 +1,21 @@
 #include "play/doping.h"
 
-#include "app/game_state.h"
 #include "play/cards.h"
 #include "play/overlays.h"
-#include "play/start.h"
 #include "race/scoring.h"
 #include "support/races.h"
 #include "support/scripted_rand.h"
 
 #include <gtest/gtest.h>
 
-namespace
-{
-
-constexpr std::string_view ONE_LAP = "01S23S4S5F12";
-constexpr Square FLAT = {13, 2};
-constexpr Square COBBLES = {61, 4};
-constexpr Square MOUNTAIN = {32, 2};
-
-using Places = Table<int, 2>;
-
-void beginTurnOn(Square square)
+static void beginTurnOn(Square square)
 {
     setUpPersonsRace(ONE_LAP, {{5, square.row, square.lane}});
     beginPersonsTurn(5);
 }
 
 // Dopes with the number given.
-void dope(int number)
+static void dope(int number)
 {
     askDoping();
     const ScriptedRand chance{number - 1};
@@ -35,8 +23,8 @@ void dope(int number)
     takeDopingCard();
 }
 
-// A stage that is over, with these riders doped and everybody in by index.
-void endStage(std::initializer_list<std::pair<int, int>> dopedWith)
+// A stage is over, with these riders doped and everybody in by index.
+static void endStage(std::initializer_list<std::pair<int, int>> dopedWith)
 {
     setUpPersonsRace(ONE_LAP, {});
     for (const auto& [rider, number] : dopedWith)
@@ -46,12 +34,10 @@ void endStage(std::initializer_list<std::pair<int, int>> dopedWith)
 }
 
 // The random number behind a draw of two numbers.
-int drawOf(int first, int second)
+static int drawOf(int first, int second)
 {
     return (first - 1) * 5 + (second > first ? second - 2 : second - 1);
 }
-
-} // namespace
 
 TEST(Doping, GivesACardForThisThrowAndANumber)
 {
@@ -66,43 +52,28 @@ TEST(Doping, GivesACardForThisThrowAndANumber)
     dope(4);
     EXPECT_EQ(gameState, STATE_TURN);
     EXPECT_EQ(race.dopingNumber[5], 4);
-    EXPECT_EQ(race.playedCards, (Places{DOPING_CARD, -1}));
+    EXPECT_EQ(race.playedCards, (Pair{DOPING_CARD, -1}));
     EXPECT_FALSE(mayDope());
-    unpickCard(0);
-    EXPECT_EQ(race.playedCards[0], DOPING_CARD);
-    toggleBreakaway();
-    EXPECT_EQ(race.breakaway, 1);
-
-    const ScriptedRand chance{raceThrow(1, 3)};
-    humanThrow();
-    EXPECT_EQ(race.dice, (Places{BLUE_CARD, 3}));
+    throwNumber(raceThrow(1, 3));
+    EXPECT_EQ(race.dice, (Pair{BLUE_CARD, 3}));
 }
 
 TEST(Doping, FillsTheFirstPlaceThatTheTerrainLeavesFree)
 {
+    for (const bool cobbles : {false, true}) {
+        beginTurnOn(cobbles ? COBBLES : FLAT);
+        pickCard(4);
+        dope(1);
+        EXPECT_EQ(race.playedCards, (Pair{4, cobbles ? -1 : DOPING_CARD}));
+        EXPECT_EQ(race.dopingNumber[5], cobbles ? -1 : 1);
+    }
     beginTurnOn(FLAT);
-    pickCard(4);
-    dope(1);
-    EXPECT_EQ(race.playedCards, (Places{4, DOPING_CARD}));
-
-    beginTurnOn(FLAT);
-    pickCard(4);
-    pickCard(10);
+    pickCards({4, 10});
     askDoping();
     EXPECT_EQ(gameState, STATE_TURN);
     unpickCard(0);
     dope(1);
-    EXPECT_EQ(race.playedCards, (Places{DOPING_CARD, 10}));
-
-    beginTurnOn(COBBLES);
-    pickCard(4);
-    askDoping();
-    EXPECT_EQ(gameState, STATE_TURN);
-    unpickCard(0);
-    dope(1);
-    EXPECT_EQ(race.playedCards, (Places{DOPING_CARD, -1}));
-    pickCard(4);
-    EXPECT_EQ(race.playedCards[1], -1);
+    EXPECT_EQ(race.playedCards, (Pair{DOPING_CARD, 10}));
 
     beginTurnOn(MOUNTAIN);
     dope(1);
@@ -113,10 +84,8 @@ TEST(DopingControl, DrawsTwoDifferentNumbersEachPairOnce)
 {
     Table2<int, 7, 7> drawn{};
     for (int chance = 0; chance < 30; ++chance) {
-        endStage({});
         const ScriptedRand script{chance};
         startDopingControl();
-        EXPECT_EQ(gameState, STATE_DOPING_DRAW);
         ++drawn[race.dopingDraw[0]][race.dopingDraw[1]];
     }
     for (int first = 1; first <= 6; ++first)
@@ -126,21 +95,15 @@ TEST(DopingControl, DrawsTwoDifferentNumbersEachPairOnce)
 
 TEST(DopingControl, WithNobodyCaughtTheStageCloses)
 {
-    endStage({{2, 6}, {9, 1}});
-    const ScriptedRand script{drawOf(3, 4)};
-    startDopingControl();
-    EXPECT_FALSE(race.anyDoping);
-    afterDopingDraw();
-    EXPECT_EQ(gameState, STATE_FINAL_SCORECARD);
-    EXPECT_EQ(race.resultSlots[FINISH_SLOT + 2], 2);
-}
-
-TEST(DopingControl, OneRiderCaughtIsEnough)
-{
-    endStage({{9, 6}});
-    const ScriptedRand script{drawOf(6, 1)};
-    startDopingControl();
-    EXPECT_TRUE(race.anyDoping);
+    for (const bool caught : {true, false}) { // one is enough
+        endStage({{2, 5}, {9, 6}});
+        const ScriptedRand script{caught ? drawOf(6, 1) : drawOf(3, 4)};
+        startDopingControl();
+        EXPECT_EQ(race.anyDoping, caught);
+        afterDopingDraw();
+        EXPECT_EQ(gameState, caught ? STATE_DOPING_COUNTERCHECK : STATE_FINAL_SCORECARD);
+        EXPECT_EQ(race.resultSlots[FINISH_SLOT + 2], 2);
+    }
 }
 
 TEST(DopingControl, EveryRiderCaughtHasACountercheckOfHisOwn)
@@ -149,7 +112,7 @@ TEST(DopingControl, EveryRiderCaughtHasACountercheckOfHisOwn)
     race.resultSlots[3] = 9;
     const ScriptedRand script{drawOf(1, 6), 6 - 1, 2 - 1, 5 - 1};
     startDopingControl();
-    EXPECT_TRUE(race.anyDoping);
+    EXPECT_EQ(gameState, STATE_DOPING_DRAW);
     EXPECT_TRUE(isCaught(15));
     EXPECT_FALSE(isCaught(7));
 
@@ -167,21 +130,9 @@ TEST(DopingControl, EveryRiderCaughtHasACountercheckOfHisOwn)
     EXPECT_EQ(race.resultSlots[FINISH_SLOT + 10], 10); // nobody moves up
 
     nextCountercheck();
-    EXPECT_EQ(race.currentRider, 15);
-    EXPECT_EQ(gameState, STATE_DOPING_COUNTERCHECK);
+    EXPECT_EQ(onTurn(), (OnTurn{15, STATE_DOPING_COUNTERCHECK}));
     nextCountercheck();
     EXPECT_EQ(gameState, STATE_FINAL_SCORECARD);
     EXPECT_EQ(script.calls(), 4);
     EXPECT_EQ(stagePoints(race.resultSlots, false).team[2], 22 + 18 + 16); // without the ninth's 20
-}
-
-TEST(Doping, IsForgottenWithTheStage)
-{
-    beginTurnOn(FLAT);
-    dope(3);
-    race.riders[5].disqualified = 1;
-    startRace();
-    EXPECT_EQ(race.dopingNumber[5], -1);
-    EXPECT_EQ(race.riders[5].disqualified, 0);
-    EXPECT_EQ(race.dopingDraw, (Places{0, 0}));
 }

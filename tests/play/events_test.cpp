@@ -1,154 +1,147 @@
 #include "play/events.h"
 
-#include "app/game_state.h"
-#include "board/course.h"
 #include "play/cards.h"
 #include "play/hand_in.h"
-#include "play/turn_cycle.h"
-#include "race/card_rules.h"
 #include "race/event_deck.h"
 #include "support/races.h"
 #include "support/scripted_rand.h"
 
 #include <gtest/gtest.h>
 
-namespace
-{
+static constexpr Square DESCENT = {44, 2}; // +5
+static constexpr int FREE_CARD = 16;
+static constexpr int EXTRA_DIE = 19;
+static constexpr int PAID_SPACES = 29;
 
-constexpr std::string_view ONE_LAP = "01S23S4S5F12";
-constexpr Square FLAT = {13, 2};
-constexpr Square MOUNTAIN = {32, 2};
-constexpr Square DESCENT = {44, 2}; // +5
-constexpr int FREE_CARD = 16;
-constexpr int EXTRA_DIE = 19;
-constexpr int PAID_SPACES = 29;
-
-void putOnTop(int card)
+// This rider has thrown 4 and 3 and holds this card.
+static void draw(int card, int rider)
 {
+    beginPersonsMove(rider, 7 + squareAt(race.riders[rider].row, race.riders[rider].lane));
+    race.dice = {4, 3};
+    race.movesTotal = 7;
+    gameState = STATE_EVENT_CARD;
     deck.eventDeck[deck.eventCardPos] = card;
 }
 
-// Rider 0 has thrown 4 and 3 and holds this card; rider 15 comes next.
-void draw(int card, Square square, bool person)
+// Rider 0 holds this card; rider 15, a person's, comes next.
+static void hold(int card, bool person, Square square = FLAT)
 {
     setUpRace(ONE_LAP, {{0, square.row, square.lane}, {15, 6, 0}});
     if (person)
         makeHuman(0);
     makeHuman(3);
-    beginPersonsMove(0, 7 + squareAt(square.row, square.lane));
-    race.dice = {4, 3};
-    race.movesTotal = 7;
-    gameState = STATE_EVENT_CARD;
-    putOnTop(card);
+    draw(card, 0);
 }
 
-void drawAndApply(int card, Square square, bool person)
+static void apply(int card, bool person, Square square = FLAT)
 {
-    draw(card, square, person);
+    hold(card, person, square);
     applyEventCard();
 }
 
-void spendCards(int team)
+struct Moves {
+    int budget, total, extra, bonus;
+    friend bool operator==(const Moves&, const Moves&) = default;
+};
+
+static Moves moves()
 {
-    for (int slot = 0; slot < SET_CARD_COUNT; ++slot)
-        race.cardUsed[team][slot] = CARD_SPENT;
+    return {race.moveBudget, race.movesTotal, race.extraMoves, race.bonusMoves};
 }
 
-int spentCards(int team)
+// The person who is asked hands in these cards.
+static void pay(std::initializer_list<int> slots)
 {
-    int spent = 0;
-    for (int slot = 0; slot < SET_CARD_COUNT; ++slot)
-        spent += race.cardUsed[team][slot] == CARD_SPENT;
-    return spent;
+    pickCards(slots);
+    confirmHandIn();
 }
 
-} // namespace
+static bool lostHisTurn(int rider)
+{
+    return race.riders[rider].offBoard && race.riders[rider].hasMoved;
+}
 
 TEST(EventCard, IsDrawnForASevenFromTheSecondRoundOn)
 {
-    const auto stateAfter = [](int first, int second, int round, bool cardsOn, bool cardLaid,
-                               int position = 3) {
-        setUpPersonsRace(ONE_LAP, {{0, FLAT.row, FLAT.lane}});
-        raceSetup.eventCardsOn = cardsOn;
-        beginPersonsTurn(0);
-        if (cardLaid)
-            pickCard(0);
-        race.roundNumber = round;
-        const ScriptedRand script{raceThrow(first, second)};
-        deck.eventCardPos = position;
-        humanThrow();
-        EXPECT_EQ(deck.eventCardPos != position, gameState == STATE_EVENT_CARD);
-        return gameState;
+    const struct {
+        Pair dice = {3, 4};
+        bool drawn = false;
+        int round = 2;
+        bool cardsOn = true;
+        bool blueLaid = false;
+        Square square = FLAT;
+        int position = 3;
+    } cases[] = {
+        {.drawn = true},
+        {.drawn = true, .position = EVENT_CARD_COUNT - 1}, // behind the last comes the first again
+        {.round = 1},
+        {.cardsOn = false},
+        {.dice = {3, 5}},
+        {.dice = {5, 1}, .drawn = true, .blueLaid = true},
+        {.dice = {1, 1}, .square = DESCENT}, // seven moves, but no throw of seven
     };
-    EXPECT_EQ(stateAfter(3, 4, 2, true, false), STATE_EVENT_CARD);
-    EXPECT_EQ(stateAfter(3, 4, 1, true, false), STATE_MOVE);
-    EXPECT_EQ(stateAfter(3, 4, 2, false, false), STATE_MOVE);
-    EXPECT_EQ(stateAfter(3, 5, 2, true, false), STATE_MOVE);
-    EXPECT_EQ(stateAfter(5, 1, 2, true, true), STATE_EVENT_CARD); // a blue card and a die
-    setUpPersonsRace(ONE_LAP, {{0, DESCENT.row, DESCENT.lane}});
-    raceSetup.eventCardsOn = true;
-    beginPersonsTurn(0);
-    {
-        const ScriptedRand script{raceThrow(1, 1)};
-        humanThrow();
+    for (const auto& known : cases) {
+        setUpPersonsRace(ONE_LAP, {{0, known.square.row, known.square.lane}});
+        raceSetup.eventCardsOn = known.cardsOn;
+        beginPersonsTurn(0);
+        if (known.blueLaid)
+            pickCard(0);
+        race.roundNumber = known.round;
+        deck.eventCardPos = known.position;
+        throwNumber(raceThrow(known.dice[0], known.dice[1]));
+        EXPECT_EQ(gameState, known.drawn ? STATE_EVENT_CARD : STATE_MOVE);
+        EXPECT_EQ(deck.eventCardPos, (known.position + known.drawn) % EVENT_CARD_COUNT);
     }
-    EXPECT_EQ(race.moveBudget, 7); // seven moves, but no throw of seven
-    EXPECT_EQ(gameState, STATE_MOVE);
-    stateAfter(3, 4, 2, true, false, EVENT_CARD_COUNT - 1);
-    EXPECT_EQ(deck.eventCardPos, 0);
 }
 
 TEST(EventCard, LostTurnsAreBoughtOffByPersonsIfTheyLike)
 {
     for (const int card : {0, 4, 5, 11}) {
         const int turns = card < 5 ? 1 : 2;
-        drawAndApply(card, FLAT, true);
+        apply(card, true);
         EXPECT_EQ(gameState, STATE_SKIP_HANDIN) << card;
         EXPECT_EQ(race.riders[0].skipTurns, turns) << card;
-        EXPECT_EQ(handInSlotCount(), turns) << card;
-        for (const int slot : {0, 10})
-            pickCard(slot);
-        confirmHandIn();
+        pay({0, 10}); // for one turn only the first is taken
+        EXPECT_EQ(race.cardUsed[0][10], turns == 2 ? CARD_SPENT : CARD_AVAILABLE);
         EXPECT_EQ(gameState, STATE_MOVE) << card; // with his throw
+        EXPECT_EQ(race.currentRider, 0);
         EXPECT_EQ(race.moveBudget, 7);
     }
-    drawAndApply(7, FLAT, true);
-    pickCard(3);
-    confirmHandIn(); // one card for two turns: the running one is lost
-    EXPECT_TRUE(race.riders[0].offBoard);
+    apply(7, true);
+    pay({3}); // one card for two turns: the running one is lost, and no other
+    EXPECT_TRUE(lostHisTurn(0));
     EXPECT_EQ(race.riders[0].skipTurns, 0);
-    EXPECT_EQ(race.currentRider, 15);
+    EXPECT_EQ(onTurn(), (OnTurn{15, STATE_TURN}));
 
-    draw(7, FLAT, true);
-    spendCards(0);
-    applyEventCard();
-    EXPECT_EQ(gameState, STATE_SKIP_NO_CARD);
+    apply(7, true);
+    pay({});
+    EXPECT_EQ(race.riders[0].skipTurns, 1);
 }
 
 TEST(EventCard, LostTurnsAreBoughtOffByComputerRidersAtOnce)
 {
-    drawAndApply(9, FLAT, false);
+    apply(9, false);
     EXPECT_EQ(gameState, STATE_ANIMATE);
-    EXPECT_EQ(spentCards(0), 2);
+    EXPECT_EQ(race.moveBudget, 7);
+    EXPECT_EQ(spentCards(0).size(), 2u);
     EXPECT_EQ(race.riders[0].skipTurns, 0);
 
-    draw(9, FLAT, false);
-    spendCards(0);
+    hold(9, false);
+    leaveCards(0, {});
     applyEventCard();
-    EXPECT_TRUE(race.riders[0].offBoard);
+    EXPECT_TRUE(lostHisTurn(0));
     EXPECT_EQ(race.riders[0].skipTurns, 1);
     EXPECT_EQ(race.currentRider, 15);
 }
 
 // Behind rider 0 stand rider 4, who has moved, and rider 8; rider 12 stands clear.
-TEST(EventCard, VictimsOfACrashAnswerAfterItsCauser)
+TEST(EventCard, VictimsOfACrashAnswerAfterItsCauserFrontToBack)
 {
     for (const int card : {12, 13, 14}) {
-        setUpPersonsRace(ONE_LAP, {{0, 7, 2}, {4, 6, 2, true}, {8, 5, 2}, {12, 2, 0}});
-        beginPersonsMove(0, 7);
-        race.dice = {4, 3};
-        gameState = STATE_EVENT_CARD;
-        putOnTop(card);
+        setUpPersonsRace(ONE_LAP, {{0, 7, 2}, {4, 6, 2, MOVED}, {8, 5, 2}, {12, 2, 0}});
+        draw(card, 0);
+        leaveCards(2, {});
+        race.riderLapCount[4] = 0;
         applyEventCard();
         EXPECT_EQ(race.riders[0].skipTurns, card == 14 ? 2 : 1);
         EXPECT_EQ(race.riders[4].skipTurns, 1);
@@ -156,110 +149,87 @@ TEST(EventCard, VictimsOfACrashAnswerAfterItsCauser)
         EXPECT_EQ(occupant(7, 2), -1); // it is still his turn
 
         EXPECT_EQ(race.currentRider, 0);
-        pickCard(0);
-        pickCard(1);
-        confirmHandIn();
+        pay({0, 1});
         EXPECT_EQ(race.currentRider, 4);
-        pickCard(0);
-        confirmHandIn();
-        EXPECT_EQ(race.currentRider, 8);
+        EXPECT_EQ(view.shownTeam, 1);
+        EXPECT_EQ(race.riderLapCount[4], 1); // as the panel says
         EXPECT_EQ(gameState, STATE_SKIP_HANDIN);
-        confirmHandIn(); // pays nothing
-        EXPECT_TRUE(race.riders[8].offBoard);
+        pay({0});
+        EXPECT_EQ(onTurn(), (OnTurn{8, STATE_SKIP_NO_CARD}));
+        pay({}); // and those of the others aren't his
+        EXPECT_TRUE(lostHisTurn(8));
         EXPECT_EQ(occupant(5, 2), -1);
         EXPECT_EQ(occupant(6, 2), 4);
-        EXPECT_EQ(race.currentRider, 0); // has paid and moves with his throw
-        EXPECT_EQ(gameState, STATE_MOVE);
+        EXPECT_EQ(onTurn(), (OnTurn{0, STATE_MOVE})); // has paid and moves with his throw
     }
 }
 
-TEST(EventCard, AComputerCauserOfACrashLetsThePersonsBehindHimAnswer)
+TEST(EventCard, WhoHasLostHisTurnInACrashHandsItOn)
 {
     setUpRace(ONE_LAP, {{0, 7, 2}, {4, 6, 2}, {12, 2, 0}});
     makeHuman(1);
-    beginPersonsMove(0, 7);
-    race.dice = {4, 3};
-    spendCards(0);
-    gameState = STATE_EVENT_CARD;
-    putOnTop(14);
+    draw(14, 0);
+    leaveCards(0, {});
     applyEventCard();
-    EXPECT_TRUE(race.riders[0].offBoard);
+    EXPECT_TRUE(lostHisTurn(0));
     EXPECT_EQ(race.riders[0].skipTurns, 1);
     EXPECT_EQ(race.currentRider, 4);
-    pickCard(0);
-    confirmHandIn();
-    EXPECT_EQ(race.currentRider, 4); // the turn in hand was lost; now it is his own
-    EXPECT_EQ(gameState, STATE_TURN);
+    pay({0});
+    EXPECT_EQ(onTurn(), (OnTurn{4, STATE_TURN})); // the turn in hand was lost; now it is his own
 }
 
 TEST(EventCard, ComputerVictimsOfACrashPayAtOnce)
 {
-    setUpPersonsRace(ONE_LAP, {{0, 7, 2}, {8, 6, 2}, {4, 5, 2}});
+    setUpPersonsRace(ONE_LAP, {{0, 7, 2}, {8, 6, 2}, {4, 5, 2, MOVED}});
     race.riders[8].isHuman = 0;
-    beginPersonsMove(0, 7);
-    gameState = STATE_EVENT_CARD;
-    putOnTop(12);
+    draw(12, 0);
     applyEventCard();
-    confirmHandIn();
-    EXPECT_EQ(spentCards(2), 1);
-    EXPECT_EQ(race.currentRider, 4); // behind him, and asked after him
-    EXPECT_EQ(gameState, STATE_SKIP_HANDIN);
+    pay({0});
+    EXPECT_EQ(spentCards(2).size(), 1u);
+    EXPECT_EQ(onTurn(), (OnTurn{4, STATE_SKIP_HANDIN})); // behind him, and asked after him
+    pay({});                                             // though he has moved already
+    EXPECT_TRUE(lostHisTurn(4));
+    EXPECT_EQ(onTurn(), (OnTurn{0, STATE_MOVE}));
 }
 
-TEST(EventCard, AFreeCardIsAChoiceForPersonsAndABonusForComputerRiders)
+TEST(EventCard, AFreeCardAndAnExtraDieAreABonusForComputerRiders)
 {
-    drawAndApply(FREE_CARD, FLAT, true);
+    apply(FREE_CARD, true);
     EXPECT_EQ(gameState, STATE_EVENT_CARD_KIND);
     EXPECT_EQ(race.moveBudget, 7);
-
     for (const Square square : {FLAT, MOUNTAIN}) {
-        drawAndApply(FREE_CARD, square, false);
+        apply(FREE_CARD, false, square);
         const int bonus = square == MOUNTAIN ? WHITE_CARD : BLUE_CARD;
         EXPECT_EQ(gameState, STATE_ANIMATE);
         EXPECT_EQ(race.bonusMoves, bonus);
         EXPECT_EQ(race.movesTotal, 7 + bonus);
         EXPECT_EQ(race.cardUsed[0][SET_CARD_COUNT], CARD_NONE); // never a card
     }
-}
-
-TEST(EventCard, TheExtraDieIsThrownByPersonsOnly)
-{
-    drawAndApply(EXTRA_DIE, FLAT, true);
-    EXPECT_EQ(gameState, STATE_EVENT_DIE);
-    {
+    for (const bool person : {true, false}) {
+        hold(EXTRA_DIE, person);
         const ScriptedRand script{3};
-        throwExtraDie();
+        applyEventCard();
+        throwExtraDie(); // which only a person is asked to do
+        EXPECT_EQ(gameState, person ? STATE_MOVE : STATE_ANIMATE);
+        EXPECT_EQ(race.extraDie, 4);
+        EXPECT_EQ(moves(), (Moves{11, 11, 0, 0}));
     }
-    EXPECT_EQ(race.moveBudget, 7 + 4);
-    EXPECT_EQ(race.movesTotal, 7 + 4);
-
-    draw(EXTRA_DIE, FLAT, false);
-    const ScriptedRand script{5};
-    applyEventCard();
-    EXPECT_EQ(gameState, STATE_ANIMATE);
-    EXPECT_EQ(race.extraDie, 6);
-    EXPECT_EQ(race.movesTotal, 7 + 6);
 }
 
 TEST(EventCard, ExtraSpacesRaiseTheTotalOfComputerRidersOnly)
 {
     constexpr Table<int, 8> spaces = {2, 2, 3, 3, 4, 4, 4, 4}; // cards 21 to 28
     constexpr Table<int, 8> alone = {0, 1, 0, 0, 0, 0, 1, 1};
-    for (int card = 21; card <= 28; ++card) {
-        SCOPED_TRACE(card);
-        drawAndApply(card, FLAT, true);
-        EXPECT_EQ(gameState, STATE_MOVE);
-        EXPECT_EQ(race.moveBudget, 7 + spaces[card - 21]);
-        EXPECT_EQ(race.extraMoves, spaces[card - 21]);
-        EXPECT_EQ(race.movesTotal, 7);
-        EXPECT_EQ(race.breakaway, alone[card - 21]);
-
-        drawAndApply(card, FLAT, false);
-        EXPECT_EQ(race.movesTotal, 7 + spaces[card - 21]);
-        EXPECT_EQ(race.moveBudget, 7 + spaces[card - 21]); // the way ahead is free
-        EXPECT_EQ(race.breakaway, alone[card - 21]);
-    }
-    draw(21, FLAT, true);
+    for (int card = 21; card <= 28; ++card)
+        for (const bool person : {true, false}) {
+            SCOPED_TRACE(card);
+            apply(card, person);
+            EXPECT_EQ(gameState, person ? STATE_MOVE : STATE_ANIMATE);
+            const int more = spaces[card - 21];
+            EXPECT_EQ(moves(), (Moves{7 + more, person ? 7 : 7 + more, more, 0}));
+            EXPECT_EQ(race.breakaway, alone[card - 21]);
+        }
+    hold(21, true);
     race.breakaway = 1; // declared before the throw
     applyEventCard();
     EXPECT_EQ(race.breakaway, 1);
@@ -267,33 +237,27 @@ TEST(EventCard, ExtraSpacesRaiseTheTotalOfComputerRidersOnly)
 
 TEST(EventCard, SpacesForACardArePaidByPersonsAsTheyChooseAndByComputerRidersAtOnce)
 {
-    drawAndApply(PAID_SPACES, FLAT, true);
+    apply(PAID_SPACES, true);
     EXPECT_EQ(gameState, STATE_EVENT_HANDIN);
-    confirmHandIn(); // nothing chosen
+    pay({}); // nothing chosen
     EXPECT_EQ(gameState, STATE_EVENT_HANDIN);
-    pickCard(2);
-    pickCard(3);
-    EXPECT_EQ(race.handInCards, (Table<int, 2>{2, -1})); // one is the price
+    pickCards({2, 3});
+    EXPECT_EQ(race.handInCards, (Pair{2, -1})); // one is the price
     confirmHandIn();
     EXPECT_EQ(gameState, STATE_MOVE);
-    EXPECT_EQ(race.moveBudget, 7 + 4);
-    EXPECT_EQ(race.extraMoves, 4);
-    EXPECT_EQ(race.movesTotal, 7);
+    EXPECT_EQ(moves(), (Moves{11, 7, 4, 0}));
 
-    drawAndApply(PAID_SPACES, FLAT, false);
+    apply(PAID_SPACES, false);
     EXPECT_EQ(gameState, STATE_ANIMATE);
-    EXPECT_EQ(race.movesTotal, 7 + 4);
-    EXPECT_EQ(race.moveBudget, 7 + 4);
-    EXPECT_EQ(race.cardUsed[0][0], CARD_SPENT); // the first, whatever its value
-    EXPECT_EQ(spentCards(0), 1);
+    EXPECT_EQ(moves(), (Moves{11, 11, 4, 0}));
+    EXPECT_EQ(spentCards(0), std::vector{0}); // the first, whatever its value
 }
 
 TEST(EventCard, WithoutACardToPayTheThrowStands)
 {
     for (const bool person : {true, false}) {
-        draw(PAID_SPACES, MOUNTAIN, person);
-        spendCards(0);
-        race.cardUsed[0][0] = CARD_AVAILABLE; // blue, which is no use on a climb
+        hold(PAID_SPACES, person, MOUNTAIN);
+        leaveCards(0, {0}); // blue, which is no use on a climb
         applyEventCard();
         EXPECT_EQ(gameState, STATE_EVENT_NO_CARD);
         goOnWithoutEventCard();
@@ -301,12 +265,4 @@ TEST(EventCard, WithoutACardToPayTheThrowStands)
         EXPECT_EQ(race.moveBudget, 7 + squareAt(MOUNTAIN.row, MOUNTAIN.lane));
         EXPECT_EQ(race.eventRider, -1);
     }
-    // A won card pays as well.
-    draw(PAID_SPACES, FLAT, true);
-    spendCards(0);
-    race.cardUsed[0][15] = CARD_AVAILABLE;
-    race.wonCardRider[0][1] = 0;
-    race.wonCardValue[0][1] = BLUE_CARD;
-    applyEventCard();
-    EXPECT_EQ(gameState, STATE_EVENT_HANDIN);
 }

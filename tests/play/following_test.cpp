@@ -1,23 +1,14 @@
 #include "play/following.h"
 
-#include "app/game_state.h"
-#include "app/view.h"
-#include "board/course.h"
 #include "play/movement.h"
 #include "support/races.h"
 
 #include <gtest/gtest.h>
 
-namespace
-{
-
-constexpr std::string_view ONE_LAP = "01S23S4S5F12";
-constexpr std::string_view TWO_LAPS = "01234512345F12";
-constexpr bool MOVED = true;
-constexpr int WORTH = 50;
+static constexpr int WORTH = 50;
 
 // A person's rider moves and stops, with these moves to spare.
-void lead(int rider, std::string_view letters, int unused = 0)
+static void lead(int rider, std::string_view letters, int unused = 0)
 {
     beginPersonsMove(rider, static_cast<int>(letters.size()) + unused);
     steer(letters);
@@ -25,40 +16,51 @@ void lead(int rider, std::string_view letters, int unused = 0)
     endHumanMove();
 }
 
-bool asked(int rider)
+// Whether rider 4, who may follow rider 0, is asked.
+static bool asksRider4(const std::vector<Placed>& placed, std::string_view letters)
 {
-    return gameState == STATE_FOLLOW_PROMPT && race.followerRider == rider;
+    setUpPersonsRace(ONE_LAP, placed);
+    lead(0, letters);
+    EXPECT_EQ(gameState == STATE_TURN, gameState != STATE_FOLLOW_PROMPT);
+    return gameState == STATE_FOLLOW_PROMPT && race.followerRider == 4;
+}
+
+static void expectYes(int rider)
+{
+    EXPECT_EQ(gameState, STATE_FOLLOW_PROMPT);
+    EXPECT_EQ(race.followerRider, rider);
+    EXPECT_EQ(view.shownTeam, riderTeam(rider));
+    EXPECT_EQ(race.currentRider, 0); // the question names the leader
+    followYes();
 }
 
 // Rider 4 becomes a computer's, to whom every square is worth the same.
-void letComputerJudge()
+static void letComputerJudge()
 {
     race.riders[4].isHuman = 0;
     course.reach12 = gridOf(WORTH);
     course.reach11 = gridOf(WORTH - 1);
 }
 
-void makeRowWorth(int row, int worth)
+// Rider 0 moves from this row with rider 4, the computer's, in his wake. A square that is worth
+// something else is among those before him.
+static bool computerFollows(int row, int lane, std::string_view letters, int otherRow, int worth)
 {
-    for (int& reach : course.reach12[row])
+    setUpPersonsRace(ONE_LAP, {{0, row, lane}, {4, row - 1, lane}, {12, 20, 4}});
+    letComputerJudge();
+    for (int& reach : course.reach12[otherRow])
         reach = worth;
+    lead(0, letters);
+    return race.riders[4].hasMoved != 0;
 }
-
-} // namespace
 
 TEST(Following, TheWholeLineComesAlongInTheLeadersLane)
 {
     // In lane 5 row 101 has no square of its own.
     setUpPersonsRace(ONE_LAP, {{0, 104, 5}, {4, 103, 5}, {9, 102, 5}, {12, 100, 5}});
     lead(0, "MMRM");
-    ASSERT_TRUE(asked(4));
-    EXPECT_EQ(view.shownTeam, 1);
-    followYes();
-    ASSERT_TRUE(asked(9));
-    EXPECT_EQ(race.currentRider, 0); // the question names the leader
-    followYes();
-    ASSERT_TRUE(asked(12));
-    followYes();
+    for (const int follower : {4, 9, 12})
+        expectYes(follower);
     EXPECT_EQ(squareOfRider(0), (Square{108, 6}));
     EXPECT_EQ(squareOfRider(4), (Square{107, 6}));
     EXPECT_EQ(squareOfRider(9), (Square{106, 6}));
@@ -71,8 +73,7 @@ TEST(Following, BehindTheEndTooRowsWithoutASquareAreSkipped)
 {
     setUpPersonsRace(ONE_LAP, {{0, 10, 0}, {4, 8, 0}});
     lead(0, "M"); // to 13, 0: rows 12, 11 and 9 have no squares in this lane
-    ASSERT_TRUE(asked(4));
-    followYes();
+    expectYes(4);
     EXPECT_EQ(squareOfRider(4), (Square{10, 0})); // where the leader stood
 }
 
@@ -81,42 +82,28 @@ TEST(Following, ANoEndsTheChain)
     setUpPersonsRace(ONE_LAP, {{0, 104, 5}, {4, 103, 5}, {9, 102, 5}, {12, 103, 7}});
     lead(0, "MMM");
     followNo();
-    EXPECT_EQ(gameState, STATE_TURN);
-    EXPECT_EQ(race.currentRider, 12);
+    EXPECT_EQ(onTurn(), (OnTurn{12, STATE_TURN}));
     EXPECT_EQ(occupant(103, 5), 4);
     EXPECT_EQ(race.riders[4].hasMoved, 0);
     followYes(); // no question stands any more
     EXPECT_EQ(occupant(103, 5), 4);
 }
 
-TEST(Following, OnlyWhoStandsDirectlyBehindAndHasNotMoved)
+TEST(Following, OnlyWhoIsDirectlyBehindOnTheSameTerrainAndHasNotMoved)
 {
-    setUpPersonsRace(ONE_LAP, {{0, 104, 5}, {4, 102, 5}, {9, 103, 6}});
-    lead(0, "MMM");
-    EXPECT_EQ(gameState, STATE_TURN);
-
-    setUpPersonsRace(ONE_LAP, {{0, 104, 5}, {4, 103, 5, MOVED}, {9, 102, 5}});
-    lead(0, "MMM");
-    EXPECT_EQ(gameState, STATE_TURN);
-}
-
-TEST(Following, OnlyFromTheTerrainOfTheSquareInFront)
-{
-    setUpPersonsRace(ONE_LAP, {{0, 20, 4}, {4, 19, 4}}); // a climb begins on row 20
-    lead(0, "MM");
-    EXPECT_EQ(gameState, STATE_TURN);
-
-    setUpPersonsRace(ONE_LAP, {{0, 19, 4}, {4, 18, 4}}); // where the leader goes doesn't matter
-    lead(0, "MMM");
-    EXPECT_TRUE(asked(4));
-}
-
-TEST(Following, ATakenSquareEndsTheChain)
-{
-    setUpPersonsRace(ONE_LAP, {{0, 104, 5}, {4, 103, 5}, {9, 107, 6, MOVED}, {12, 103, 7}});
-    lead(0, "MMMR");
-    EXPECT_EQ(gameState, STATE_TURN);
+    EXPECT_TRUE(asksRider4({{0, 104, 5}, {4, 103, 5}}, "MMM"));
+    EXPECT_FALSE(asksRider4({{0, 104, 5}, {4, 102, 5}, {9, 103, 6}}, "MMM"));
+    EXPECT_FALSE(asksRider4({{0, 104, 5}, {4, 103, 5, MOVED}, {9, 102, 5}}, "MMM"));
+    EXPECT_FALSE(asksRider4({{0, 20, 4}, {4, 19, 4}}, "MM")); // a climb begins on row 20
+    EXPECT_TRUE(asksRider4({{0, 19, 4}, {4, 18, 4}}, "MMM")); // it lies before the leader only
+    EXPECT_FALSE(asksRider4({{0, 104, 5}, {4, 103, 5}, {9, 107, 6, MOVED}, {12, 103, 7}}, "MMMR"))
+        << "where he would come to stand there is somebody";
     EXPECT_EQ(occupant(103, 5), 4);
+
+    setUpPersonsRace(ONE_LAP, {{0, 104, 5}, {4, 103, 5}});
+    race.breakaway = 1;
+    lead(0, "MMM");
+    EXPECT_EQ(onTurn(), (OnTurn{4, STATE_TURN}));
 }
 
 TEST(Following, TheWayMayCostTheMovesThatTheLeaderMade)
@@ -128,10 +115,8 @@ TEST(Following, TheWayMayCostTheMovesThatTheLeaderMade)
 
     setUpPersonsRace(ONE_LAP, {{0, 13, 3}, {4, 10, 3}, {9, 8, 3}});
     lead(0, "MR", 7);
-    ASSERT_TRUE(asked(4));
-    followYes(); // behind a person's yes the chain has all the leader's moves
-    ASSERT_TRUE(asked(9));
-    followYes();
+    expectYes(4); // behind a person's yes the chain has all the leader's moves
+    expectYes(9);
     EXPECT_EQ(squareOfRider(9), (Square{13, 4}));
 
     setUpPersonsRace(ONE_LAP, {{0, 13, 3}, {4, 10, 3}, {9, 8, 3}});
@@ -153,12 +138,10 @@ TEST(Following, ARiderALapAheadFollowsOnHisOwnLap)
 {
     setUpPersonsRace(TWO_LAPS, {{0, 104, 5}, {4, 103 + 109, 5 + 3}, {9, 102, 5}, {12, 60, 4}});
     lead(0, "MMM");
-    ASSERT_TRUE(asked(4));
-    followYes();
+    expectYes(4);
     EXPECT_EQ(squareOfRider(4), (Square{106 + 109, 5 + 3}));
     EXPECT_EQ(race.riderLapCount[4], 2);
-    ASSERT_TRUE(asked(9)); // the line goes on a lap behind
-    followYes();
+    expectYes(9); // the line goes on a lap behind
     EXPECT_EQ(squareOfRider(9), (Square{105, 5}));
     EXPECT_EQ(occupant(106, 5), -1);
 }
@@ -167,8 +150,7 @@ TEST(Following, NobodyStandsBehindTheFirstRowButOnALaterLap)
 {
     setUpPersonsRace(TWO_LAPS, {{0, 0, 2}, {4, 108, 5}, {9, 0, 4}});
     lead(0, "MM");
-    ASSERT_TRUE(asked(4));
-    followYes();
+    expectYes(4);
     EXPECT_EQ(squareOfRider(4), (Square{110, 5}));
     EXPECT_EQ(race.currentRider, 9);
 }
@@ -177,9 +159,8 @@ TEST(Following, FollowersCrossTheFinishBehindTheLeader)
 {
     setUpPersonsRace(ONE_LAP, {{0, 113, 5}, {4, 112, 5}, {9, 111, 5}, {12, 60, 4}});
     lead(0, "MMM");
-    followYes();
-    ASSERT_TRUE(asked(9));
-    followYes(); // he comes to stand on the line
+    expectYes(4);
+    expectYes(9); // he comes to stand on the line
     EXPECT_EQ(race.resultSlots[FINISH_SLOT + 1], 4);
     EXPECT_EQ(race.resultSlots[FINISH_SLOT + 2], -1);
     EXPECT_EQ(race.sprintWinner, 0);
@@ -189,11 +170,8 @@ TEST(Following, FollowersCrossTheFinishBehindTheLeader)
 
 TEST(ComputerFollower, ComesToASquareAsGoodAsHisOwnTurnPromises)
 {
-    setUpPersonsRace(ONE_LAP, {{0, 104, 5}, {4, 103, 5}, {9, 102, 5}});
-    letComputerJudge();
-    lead(0, "MMM");
+    EXPECT_TRUE(computerFollows(104, 5, "MMM", 106, WORTH));
     EXPECT_EQ(squareOfRider(4), (Square{106, 5}));
-    EXPECT_TRUE(asked(9));
 
     setUpPersonsRace(ONE_LAP, {{0, 104, 5}, {4, 103, 5}, {9, 102, 5}, {12, 103, 7}});
     letComputerJudge();
@@ -206,33 +184,15 @@ TEST(ComputerFollower, ComesToASquareAsGoodAsHisOwnTurnPromises)
 
 TEST(ComputerFollower, TakesHisOwnTurnForASevenOnHisSquare)
 {
-    for (const int ahead : {7, 8}) {
-        setUpPersonsRace(ONE_LAP, {{0, 104, 5}, {4, 103, 5}, {12, 102, 7}});
-        letComputerJudge();
-        makeRowWorth(103 + ahead, WORTH + 10);
-        lead(0, "MMM");
-        EXPECT_EQ(race.riders[4].hasMoved, ahead == 8) << ahead; // out of a seven's reach
-    }
-    setUpPersonsRace(ONE_LAP, {{0, 48, 3}, {4, 47, 3}, {12, 20, 4}}); // a descent adds 4
-    letComputerJudge();
-    makeRowWorth(47 + 11, WORTH + 10);
-    lead(0, "MM");
-    EXPECT_EQ(race.riders[4].hasMoved, 0);
+    EXPECT_FALSE(computerFollows(104, 5, "MMM", 103 + 7, WORTH + 10));
+    EXPECT_TRUE(computerFollows(104, 5, "MMM", 103 + 8, WORTH + 10)); // out of a seven's reach
+    EXPECT_FALSE(computerFollows(48, 3, "MM", 47 + 11, WORTH + 10));  // a descent adds 4
 }
 
 TEST(ComputerFollower, AlwaysComesAlongAcrossTheFinish)
 {
-    setUpPersonsRace(ONE_LAP, {{0, 113, 5}, {4, 112, 5}, {12, 60, 4}});
-    letComputerJudge();
-    course.reach12[115][5] = 1;
-    lead(0, "MMM");
+    EXPECT_TRUE(computerFollows(113, 5, "MMM", 115, 1));
     EXPECT_EQ(race.resultSlots[FINISH_SLOT + 1], 4);
     EXPECT_EQ(race.riders[4].finished, 1);
-
-    // The line itself lies before the finish.
-    setUpPersonsRace(ONE_LAP, {{0, 112, 5}, {4, 111, 5}, {12, 60, 4}});
-    letComputerJudge();
-    course.reach12[course.finishRow][5] = 1;
-    lead(0, "MMM");
-    EXPECT_EQ(race.currentRider, 4); // he declines and takes his own turn
+    EXPECT_FALSE(computerFollows(112, 5, "MMM", 114, 1)); // the line itself lies before it
 }

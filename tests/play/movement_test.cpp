@@ -1,46 +1,31 @@
 #include "play/movement.h"
 
-#include "app/game_state.h"
-#include "board/course.h"
 #include "play/turn_cycle.h"
 #include "race/step_rule.h"
-#include "support/fake_host.h"
 #include "support/races.h"
 
 #include <gtest/gtest.h>
 
-namespace
-{
-
-constexpr std::string_view ONE_LAP = "01S23S4S5F12";
-constexpr std::string_view TWO_LAPS = "01234512345F12";
-constexpr bool MOVED = true;
-
-Square step(Square from, char letter)
+static Square step(Square from, char letter)
 {
     return stepTarget(from.row, from.lane, letter, false);
 }
 
-} // namespace
-
-TEST(StepRule, PassThroughRowsCostNothing)
+TEST(StepRule, RowsWithoutASquareCostNothingAndRidersAndEdgesStop)
 {
-    setUpRace(ONE_LAP, {});
-    EXPECT_EQ(step({8, 0}, 'M'), (Square{10, 0}));  // one row without a square
-    EXPECT_EQ(step({10, 0}, 'M'), (Square{13, 0})); // two
-    EXPECT_EQ(step({8, 1}, 'L'), (Square{10, 0}));  // after a change of lane
+    setUpRace(TWO_LAPS, {{3, 8, 2}, {4, 13, 0}});
+    EXPECT_EQ(step({8, 1}, 'L'), (Square{10, 0}));
     EXPECT_EQ(step({76, 4}, 'M'), (Square{98, 4})); // across the seam of two sections
-    EXPECT_EQ(step({76, 5}, 'M'), (Square{99, 5})); // and on into the next one's
-}
-
-TEST(StepRule, TheRoadHasEdges)
-{
-    setUpRace(ONE_LAP, {});
-    EXPECT_EQ(step({7, 0}, 'L'), NO_STEP);
-    EXPECT_EQ(step({7, 4}, 'R'), NO_STEP);
-    EXPECT_EQ(step({44, 1}, 'M'), NO_STEP); // the lane ends
+    EXPECT_EQ(step({44, 1}, 'M'), NO_STEP);         // the lane ends
     EXPECT_EQ(step({44, 1}, 'R'), (Square{47, 2}));
-    EXPECT_EQ(step({152, 4}, 'M'), NO_STEP); // so does the course
+    EXPECT_EQ(step({7, 0}, 'L'), NO_STEP);
+    EXPECT_EQ(step({7, 2}, 'M'), NO_STEP);   // rider 3
+    EXPECT_EQ(step({116, 5}, 'M'), NO_STEP); // a lap ahead of him
+    EXPECT_EQ(step({7, 2}, 'L'), (Square{8, 1}));
+    EXPECT_EQ(step({10, 0}, 'M'), NO_STEP); // rider 4, behind two rows without squares
+    liftOffBoard(4);
+    EXPECT_EQ(step({10, 0}, 'M'), (Square{13, 0}));
+    EXPECT_EQ(step({course.courseRowCount - 1, 8}, 'M'), NO_STEP);
 }
 
 TEST(StepRule, WallsStopChangesOfLaneFromTheirFirstRowToTheLastButOne)
@@ -60,36 +45,23 @@ TEST(StepRule, WallsStopChangesOfLaneFromTheirFirstRowToTheLastButOne)
     }
 }
 
-TEST(StepRule, ARiderStopsWhoWouldLandOnHim)
-{
-    setUpRace(TWO_LAPS, {{3, 8, 2}, {4, 13, 0}});
-    EXPECT_EQ(step({7, 2}, 'M'), NO_STEP);
-    EXPECT_EQ(step({116, 5}, 'M'), NO_STEP); // a lap ahead of that
-    EXPECT_EQ(step({7, 2}, 'L'), (Square{8, 1}));
-    EXPECT_EQ(step({10, 0}, 'M'), NO_STEP); // behind two rows without squares
-    liftOffBoard(3);
-    EXPECT_EQ(step({7, 2}, 'M'), (Square{8, 2}));
-}
-
-TEST(Steering, RefusedStepsCostNothingAndTheThrowIsTheLimit)
-{
-    setUpPersonsRace(ONE_LAP, {{0, 7, 1}});
-    beginPersonsMove(0, 2);
-    steer("LLLMM");
-    EXPECT_EQ(squareOfRider(0), (Square{10, 0}));
-    EXPECT_EQ(race.stepsTaken, 2);
-}
-
-TEST(Steering, UndoGoesBackToTheStartAndNoFurther)
+TEST(Steering, RefusedStepsCostNothingAndUndoGoesBackToTheStart)
 {
     setUpPersonsRace(ONE_LAP, {{0, 5, 1}});
     beginPersonsMove(0, 4);
-    steer("MRMM");
+    const auto figure = [] { return std::pair(race.riders[0].x, race.riders[0].y); };
+    steer("MRM");
+    const auto before = figure();
+    steer("M");
+    EXPECT_NE(figure(), before);
     EXPECT_EQ(race.riderLapCount[0], 1); // the start section lies behind him
     undoStep();
+    EXPECT_EQ(figure(), before);
     EXPECT_EQ(squareOfRider(0), (Square{8, 2}));
     steer("L");
     EXPECT_EQ(squareOfRider(0), (Square{9, 1}));
+    steer("MRRRRRM"); // lane 2 is the last before a wall, and four moves are all
+    EXPECT_EQ(race.stepsTaken, 4);
     for (int i = 0; i < 6; ++i)
         undoStep();
     EXPECT_EQ(squareOfRider(0), (Square{5, 1}));
@@ -99,14 +71,16 @@ TEST(Steering, UndoGoesBackToTheStartAndNoFurther)
 
 TEST(EndOfMove, WithoutAStepHeIsOffTheBoard)
 {
-    setUpPersonsRace(ONE_LAP, {{0, 102, 5}, {4, 100, 5}});
-    beginPersonsMove(0, 9);
-    endHumanMove();
-    EXPECT_EQ(race.riders[0].offBoard, 1);
-    EXPECT_EQ(race.currentRider, 4);
-    beginPersonsMove(4, 1);
-    steer("M");
-    EXPECT_EQ(squareOfRider(4), (Square{102, 5})); // the square is free to others
+    for (const bool person : {true, false}) {
+        setUpPersonsRace(ONE_LAP, {{0, 102, 5}, {4, 100, 5}});
+        beginPersonsMove(0, person ? 9 : 0);
+        person ? endHumanMove() : endComputerMove();
+        EXPECT_EQ(race.riders[0].offBoard, 1);
+        EXPECT_EQ(onTurn(), (OnTurn{4, STATE_TURN})); // nobody is asked to follow
+        beginPersonsMove(4, 1);
+        steer("M");
+        EXPECT_EQ(squareOfRider(4), (Square{102, 5})); // the square is free to others
+    }
 }
 
 TEST(EndOfMove, BeyondTheFinishAllMovesMustBeUsed)
@@ -127,28 +101,5 @@ TEST(EndOfMove, BeyondTheFinishAllMovesMustBeUsed)
     endHumanMove();
     EXPECT_EQ(race.resultSlots[FINISH_SLOT], 0);
     EXPECT_EQ(race.riders[0].finished, 1);
-    EXPECT_EQ(race.currentRider, 4);
-}
-
-TEST(EndOfMove, NobodyFollowsABreakaway)
-{
-    setUpPersonsRace(ONE_LAP, {{0, 103, 5}, {4, 102, 5}});
-    beginPersonsMove(0, 3);
-    race.breakaway = 1;
-    steer("MMM");
-    endHumanMove();
-    EXPECT_EQ(gameState, STATE_TURN);
-    EXPECT_EQ(race.currentRider, 4);
-}
-
-TEST(EndOfMove, ABoxedInComputerRiderLeavesTheBoard)
-{
-    setUpRace(ONE_LAP, {{0, 7, 0}, {1, 8, 0, MOVED}, {2, 8, 1, MOVED}, {4, 6, 0}});
-    makeHuman(1);
-    nextTurn();
-    EXPECT_EQ(race.moveBudget, 0);
-    runTimer();
-    EXPECT_EQ(race.riders[0].offBoard, 1);
-    EXPECT_EQ(occupant(7, 0), -1);
     EXPECT_EQ(race.currentRider, 4);
 }

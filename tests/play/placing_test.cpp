@@ -1,32 +1,24 @@
 #include "play/placing.h"
 
-#include "app/game_state.h"
-#include "board/course.h"
 #include "support/races.h"
 #include "support/scripted_rand.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
 
-namespace
-{
-
-constexpr std::string_view ONE_LAP = "01S23S4S5F12";
-
 using Teams = std::vector<int>;
 
 // A race of persons that waits for the throw of the first team.
 void waitForOrderThrow()
 {
-    startSeededRace(ONE_LAP, 1);
-    for (int team = 0; team < TEAM_COUNT; ++team)
-        makeHuman(team);
+    setUpPersonsRace(ONE_LAP, {});
+    race.currentRider = 0;
     race.teamThrow = filled<int, TEAM_COUNT>(-1);
     gameState = STATE_ORDER_THROW;
 }
 
 // Throws these sums one after the other, each confirmed. The teams that were asked, in order.
-Teams teamsAskedFor(std::initializer_list<int> sums)
+static Teams teamsAskedFor(std::initializer_list<int> sums)
 {
     Teams asked;
     for (const int sum : sums) {
@@ -34,17 +26,19 @@ Teams teamsAskedFor(std::initializer_list<int> sums)
         const int first = std::min(6, sum - 1);
         const ScriptedRand script{orderThrow(first, sum - first)};
         throwForOrder();
+        EXPECT_EQ(race.dice, (Pair{first, sum - first}));
         afterOrderThrow();
+        EXPECT_EQ(race.dice, (Pair{-1, -1})); // none lies there for the next team
     }
     return asked;
 }
 
-// The team has won the throw.
-void waitForPlacing(int team, bool persons)
+// The team of persons has won the throw.
+void waitForPlacing(int team, std::string_view text = ONE_LAP)
 {
-    startSeededRace(ONE_LAP, 1);
+    startSeededRace(text, 1);
     for (Rider& rider : race.riders)
-        rider.isHuman = persons;
+        rider.isHuman = 1;
     race.teamThrow = {2, 2, 2, 2};
     race.teamThrow[team] = 12;
     afterOrderThrow();
@@ -57,24 +51,20 @@ void placeOn(int row, int lane)
     placeHumanRider();
 }
 
-void placeOnFirstLegal()
+// Tries every square until one is taken.
+static void placeSomewhere()
 {
-    for (int square = 0; square < START_ROWS * 5; ++square) {
-        if (!mayPlaceOn(square / 5, square % 5, race.currentRider))
-            continue;
+    const int rider = race.currentRider;
+    for (int square = 0; square < 4 * 5 && race.riders[rider].row == -1; ++square)
         placeOn(square / 5, square % 5);
-        return;
-    }
 }
-
-} // namespace
 
 TEST(OrderThrow, OneNumberGivesBothDice)
 {
     waitForOrderThrow();
     const ScriptedRand script{36 + 8};
     throwForOrder();
-    EXPECT_EQ(race.dice, (Table<int, 2>{2, 3}));
+    EXPECT_EQ(race.dice, (Pair{2, 3}));
     EXPECT_EQ(race.teamThrow[0], 5);
     throwForOrder(); // a throw stands
     EXPECT_EQ(script.calls(), 1);
@@ -91,17 +81,16 @@ TEST(OrderThrow, OnlyTheTiedThrowAgain)
     EXPECT_EQ(teamsAskedFor({5, 5, 5, 5, /* all again */ 8, 12, 3, 12, /* 1 and 3 */ 4, 2}),
               (Teams{0, 1, 2, 3, 0, 1, 2, 3, 1, 3}));
     EXPECT_EQ(race.firstPlacer, 4); // though he didn't throw last
-    EXPECT_EQ(race.currentRider, 4);
-    EXPECT_EQ(gameState, STATE_PLACE_HUMAN);
+    EXPECT_EQ(onTurn(), (OnTurn{4, STATE_PLACE_HUMAN}));
 }
 
 TEST(Placing, TheTeamThatWonLeadsEachCycle)
 {
-    waitForPlacing(2, true);
+    waitForPlacing(2);
     std::vector<int> placed;
     while (gameState == STATE_PLACE_HUMAN && placed.size() < RIDER_COUNT) {
         placed.push_back(race.currentRider);
-        placeOnFirstLegal();
+        placeSomewhere();
     }
     EXPECT_EQ(placed, (std::vector{8, 12, 0, 4, 9, 13, 1, 5, 10, 14, 2, 6, 11, 15, 3, 7}));
     EXPECT_EQ(gameState, STATE_TURN);
@@ -110,14 +99,16 @@ TEST(Placing, TheTeamThatWonLeadsEachCycle)
 
 TEST(Placing, OneOfATeamInALane)
 {
-    waitForPlacing(0, true);
-    placeOn(START_ROWS, 2); // behind the start rows
-    placeOn(0, 5);          // beside the road
+    waitForPlacing(0);
+    placeOn(4, 2); // behind the start rows
+    placeOn(0, 5); // beside the road
     EXPECT_EQ(race.currentRider, 0);
     placeOn(2, 3);
     EXPECT_EQ(occupant(2, 3), 0);
-    EXPECT_EQ(race.placingLane, 0); // the cursor is back
-    placeOn(2, 3);                  // taken
+    EXPECT_EQ(squareOfRider(0), (Square{2, 3}));
+    EXPECT_EQ(race.placingRow, 0); // the cursor is back
+    EXPECT_EQ(race.placingLane, 0);
+    placeOn(2, 3); // taken
     EXPECT_EQ(race.currentRider, 4);
     placeOn(3, 3);
     placeOn(0, 2);
@@ -129,20 +120,15 @@ TEST(Placing, OneOfATeamInALane)
     EXPECT_EQ(race.currentRider, 5);
 }
 
-TEST(Placing, ComputerFillsTheThirdRowFromTheRight)
+TEST(Placing, TheCursorStaysOnTheRoad)
 {
-    waitForPlacing(0, false);
-    // clang-format off
-    // lane             0   1   2   3   4
-    constexpr int GRID[START_ROWS][5] = {
-                      {-1, -1, -1, -1, 15},
-                      {11,  7,  3, 14, 10},
-                      { 1, 12,  8,  4,  0},
-                      { 6,  2, 13,  9, -1},   // rider 5 has set out from the last
-    };
-    // clang-format on
-    for (int row = 0; row < START_ROWS; ++row)
-        for (int lane = 0; lane < 5; ++lane)
-            EXPECT_EQ(occupant(row, lane), GRID[row][lane]) << row << ", " << lane;
-    EXPECT_EQ(race.currentRider, 5);
+    for (const bool start2 : {false, true}) {
+        waitForPlacing(0, start2 ? FROM_START_2 : ONE_LAP);
+        const int right = start2 ? 4 : 0;
+        EXPECT_EQ(race.placingLane, right);
+        movePlacingCursor(-1, -1);
+        EXPECT_EQ((Square{race.placingRow, race.placingLane}), (Square{0, right}));
+        movePlacingCursor(9, 9);
+        EXPECT_EQ((Square{race.placingRow, race.placingLane}), (Square{3, start2 ? 7 : 4}));
+    }
 }

@@ -1,26 +1,21 @@
 #include "play/start.h"
 
-#include "app/game_state.h"
-#include "app/view.h"
-#include "board/course.h"
 #include "race/event_deck.h"
 #include "support/races.h"
 
 #include <gtest/gtest.h>
 
-namespace
-{
+#include <array>
+#include <cstdlib>
 
-constexpr std::string_view ONE_LAP = "01S23S4S5F12";
-constexpr std::string_view FROM_START_2 = "64S5F12";
-
-// A race has been ridden, with everything in use that a race can use.
-void rideARace()
+// Two persons' teams have ridden a race, with everything in use that a race can use.
+static void rideARace()
 {
     startSeededRace(ONE_LAP, 4);
     runComputerRace();
-    for (auto& cards : race.cardUsed)
-        cards = filled<int, CARD_SLOT_COUNT>(CARD_SPENT);
+    makeHuman(0);
+    makeHuman(2);
+    race.cardUsed = filled2<int, TEAM_COUNT, CARD_SLOT_COUNT>(CARD_SPENT);
     race.wonCardRider[1] = race.wonCardValue[1] = {5, 5, 6, 6};
     for (Rider& rider : race.riders)
         rider.disqualified = rider.offBoard = rider.skipTurns = rider.pendingHandIn = 1;
@@ -29,43 +24,42 @@ void rideARace()
     view = {.viewMode = VIEW_PERSPECTIVE, .cameraIndex = 7, .otherCameraIndex = 2, .shownTeam = 3};
 }
 
-} // namespace
-
 TEST(Start, OfASecondRaceIsAsFreshAsOfTheFirst)
 {
     rideARace();
+    returnState = STATE_ANIMATE;
     courseText = FROM_START_2;
+    std::srand(5);
     startRace();
-    for (int team = 0; team < TEAM_COUNT; ++team)
+    EXPECT_EQ(gameState, STATE_ORDER_THROW);
+    EXPECT_EQ(returnState, STATE_TRANSIT);
+    for (const auto& cards : race.cardUsed)
         for (int slot = 0; slot < CARD_SLOT_COUNT; ++slot)
-            EXPECT_EQ(race.cardUsed[team][slot],
-                      slot < SET_CARD_COUNT ? CARD_AVAILABLE : CARD_NONE);
+            EXPECT_EQ(cards[slot], slot < SET_CARD_COUNT ? CARD_AVAILABLE : CARD_NONE);
     EXPECT_EQ(race.wonCardRider[1], (Table<int, WON_CARD_COUNT>{-1, -1, -1, -1}));
-    for (const Rider& rider : race.riders) {
-        EXPECT_EQ(rider.row, -1);
-        EXPECT_FALSE(rider.finished || rider.hasMoved || rider.disqualified || rider.offBoard ||
-                     rider.skipTurns || rider.pendingHandIn);
-    }
+    for (const Rider& rider : race.riders)
+        EXPECT_FALSE(rider.row != -1 || rider.finished || rider.hasMoved || rider.disqualified ||
+                     rider.offBoard || rider.skipTurns || rider.pendingHandIn);
+    EXPECT_EQ(race.teamThrow, (filled<int, TEAM_COUNT>(-1)));
     EXPECT_EQ(race.resultSlots, (filled<int, RESULT_SLOT_COUNT>(-1)));
     EXPECT_EQ(race.dopingNumber, (filled<int, RIDER_COUNT>(-1)));
+    EXPECT_EQ(race.dopingDraw, (Pair{0, 0}));
     EXPECT_EQ(race.sprintWinner, -1);
     EXPECT_EQ(race.roundNumber, 1);
     EXPECT_EQ(race.extraDie, -1);
     EXPECT_FALSE(race.breakaway || race.bonusMoves || race.extraMoves);
-    EXPECT_EQ(race.placingRow, 0);
-    EXPECT_EQ(race.placingLane, 4);
+    EXPECT_EQ((Square{race.placingRow, race.placingLane}), (Square{0, 4}));
     EXPECT_EQ(course.courseOccupant, gridOf(-1));
-    EXPECT_EQ(view.viewMode, VIEW_FLAT);
-    EXPECT_EQ(view.cameraIndex, 1);
-    EXPECT_EQ(view.otherCameraIndex, 3);
-    EXPECT_EQ(view.shownTeam, 0);
+    EXPECT_EQ((std::array{view.viewMode, view.cameraIndex, view.otherCameraIndex, view.shownTeam}),
+              (std::array<int, 4>{VIEW_FLAT, 1, 3, 0}));
+    const auto cards = deck.eventDeck;
+    startSeededRace(FROM_START_2, 5);
+    EXPECT_EQ(cards, deck.eventDeck); // shuffled anew from the printed order
 }
 
 TEST(Start, TeamsOptionsAndStagesLastFromRaceToRace)
 {
     rideARace();
-    makeHuman(0);
-    makeHuman(2);
     raceSetup.teamName[3] = "Lions";
     raceSetup.eventCardsOn = raceSetup.multiStage = true;
     raceSetup.raceStages.resize(2);
@@ -79,13 +73,9 @@ TEST(Start, TeamsOptionsAndStagesLastFromRaceToRace)
     EXPECT_EQ(deck.eventCardPos, 17);
 }
 
-TEST(Start, TheFirstTeamThrowsOrIsAsked)
+TEST(Start, AComputerTeamThrowsAtOnce)
 {
     startSeededRace(ONE_LAP, 1);
     EXPECT_EQ(gameState, STATE_ORDER_RESULT);
     EXPECT_NE(race.teamThrow[0], -1);
-    makeHuman(0);
-    startRace();
-    EXPECT_EQ(gameState, STATE_ORDER_THROW);
-    EXPECT_EQ(race.teamThrow, (filled<int, TEAM_COUNT>(-1)));
 }

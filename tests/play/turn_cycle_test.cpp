@@ -1,59 +1,61 @@
 #include "play/turn_cycle.h"
 
-#include "app/game_state.h"
-#include "app/view.h"
-#include "board/course.h"
 #include "play/movement.h"
 #include "race/soundness.h"
 #include "support/races.h"
+#include "support/scripted_rand.h"
 
 #include <gtest/gtest.h>
 
-namespace
+// The next round, before which these riders were off the board. Somebody stands on these squares.
+static void setBack(std::string_view text, const std::vector<Placed>& riders,
+                    const std::vector<Square>& taken)
 {
-
-constexpr std::string_view ONE_LAP = "01S23S4S5F12"; // finish row 114
-constexpr std::string_view TWO_LAPS = "01234512345F12";
-constexpr bool MOVED = true;
-
-// Riders who have been off the board in this round; others may have come onto their squares since.
-void waitOffBoard(std::initializer_list<int> riders)
-{
-    for (const int rider : riders)
-        liftOffBoard(rider);
+    setUpPersonsRace(text, riders);
+    race.riderLapCount = filled<int, RIDER_COUNT>(1);
+    for (const Placed& one : riders)
+        liftOffBoard(one.rider);
+    for (const Square& square : taken)
+        course.courseOccupant[square.row][square.lane] = 15;
+    nextTurn();
 }
 
-bool finished(int rider)
+static bool finished(int rider)
 {
     return race.riders[rider].finished != 0;
 }
-
-} // namespace
 
 TEST(NextTurn, FrontMostOfThoseLeftPlays)
 {
     setUpPersonsRace(ONE_LAP, {{3, 7, 2}, {6, 7, 4}, {9, 6, 4}, {14, 8, 0, MOVED}});
     nextTurn();
-    EXPECT_EQ(race.currentRider, 6); // of those in row 7 the one further right
-    EXPECT_EQ(gameState, STATE_TURN);
+    EXPECT_EQ(onTurn(), (OnTurn{6, STATE_TURN})); // of those in row 7 the one further right
     EXPECT_EQ(view.shownTeam, 1);
     EXPECT_EQ(occupant(7, 4), -1); // his own square is in nobody's way
     EXPECT_EQ(occupant(7, 2), 3);
     EXPECT_EQ(race.roundNumber, 2);
 }
 
+// None of it may stand on the panel, or count, when the next one is about to throw.
 TEST(NextTurn, ForgetsTheMoveBefore)
 {
     setUpPersonsRace(ONE_LAP, {{3, 7, 2}});
-    race.extraMoves = 4;
-    race.extraDie = 3;
+    race.moveBudget = 9;
+    race.stepsTaken = 4;
+    race.dice = race.playedCards = race.handInCards = {3, 1};
+    race.extraMoves = race.bonusMoves = race.extraDie = race.dopingCardValue = 5;
     race.breakaway = 1;
-    race.handInCards = {0, 1};
+    race.followerRider = race.eventRider = 7;
+    race.followerPlan[7] = 100;
     nextTurn();
-    EXPECT_EQ(race.extraMoves, 0);
-    EXPECT_EQ(race.extraDie, -1);
-    EXPECT_EQ(race.breakaway, 0);
-    EXPECT_EQ(race.handInCards, (Table<int, 2>{-1, -1}));
+    EXPECT_EQ(race.moveBudget, -1);
+    EXPECT_EQ(race.stepsTaken, 0);
+    for (const Pair& pair : {race.dice, race.playedCards, race.handInCards})
+        EXPECT_EQ(pair, (Pair{-1, -1}));
+    EXPECT_FALSE(race.extraMoves || race.bonusMoves || race.breakaway);
+    for (const int none : {race.extraDie, race.dopingCardValue, race.followerRider, race.eventRider,
+                           race.followerPlan[7]})
+        EXPECT_EQ(none, -1);
 }
 
 TEST(Finishers, TheLineDirectlyBehindLeavesWithTheLeader)
@@ -70,50 +72,40 @@ TEST(Finishers, TheLineDirectlyBehindLeavesWithTheLeader)
     EXPECT_EQ(occupant(117, 4), -1);
     EXPECT_FALSE(finished(3));
     EXPECT_EQ(occupant(115, 4), 3);
-}
 
-TEST(Finishers, NeitherWhoStandsOnTheLineNorALappedRiderIsOne)
-{
-    // 7, 1 is the same printed square as 116, 4: the line has no gap there.
+    // Nobody on the line. 7, 1 is the same printed square as 116, 4: a lapped rider fills a gap.
     setUpPersonsRace(
         ONE_LAP, {{0, 117, 4, MOVED}, {5, 7, 1, MOVED}, {1, 115, 4, MOVED}, {2, 114, 4, MOVED}});
     race.currentRider = 0;
     nextTurn();
     EXPECT_TRUE(finished(1));
-    EXPECT_FALSE(finished(5));
-    EXPECT_FALSE(finished(2));
+    EXPECT_FALSE(finished(5) || finished(2));
     EXPECT_EQ(race.currentRider, 2);
 }
 
-TEST(RoundEnd, WhoMissesATurnHoldsNobodyUp)
+TEST(RoundEnd, WhoMissesATurnHoldsNobodyUpAndStaysAway)
 {
-    setUpPersonsRace(ONE_LAP, {{0, 7, 2, MOVED}, {5, 8, 2}});
-    race.riders[5].skipTurns = 1;
-    nextTurn();
-    EXPECT_EQ(race.roundNumber, 3);
-    EXPECT_EQ(race.currentRider, 0);
-    EXPECT_EQ(race.riders[5].skipTurns, 0);
-    EXPECT_EQ(race.riders[5].hasMoved, 1);
-}
-
-TEST(RoundEnd, ATurnStillToMissKeepsARiderAwayForOneMore)
-{
-    setUpPersonsRace(ONE_LAP, {{0, 7, 2, MOVED}, {5, 8, 2}});
-    waitOffBoard({5});
-    race.riders[5].skipTurns = 1;
-    nextTurn();
-    EXPECT_EQ(race.riders[5].offBoard, 1);
+    for (const int turns : {1, 2}) {
+        setUpPersonsRace(ONE_LAP, {{0, 7, 2, MOVED}, {5, 8, 2}});
+        if (turns == 2)
+            liftOffBoard(5);
+        race.riders[5].skipTurns = turns;
+        nextTurn();
+        EXPECT_EQ(race.roundNumber, 3);
+        EXPECT_EQ(race.currentRider, 0);
+        EXPECT_EQ(race.riders[5].skipTurns, turns - 1);
+        EXPECT_EQ(race.riders[5].hasMoved, 1);
+        EXPECT_EQ(race.riders[5].offBoard, turns == 2);
+    }
+    race.riders[0].hasMoved = 1;
+    nextTurn(); // one turn is still to be missed
     EXPECT_EQ(race.currentRider, 0);
     race.riders[0].hasMoved = 1;
     nextTurn();
-    EXPECT_EQ(race.roundNumber, 4);
     EXPECT_EQ(race.currentRider, 5);
-}
 
-TEST(RoundEnd, RoundsWithoutAPlayerPassAtOnce)
-{
-    setUpPersonsRace(ONE_LAP, {{5, 8, 2}});
-    waitOffBoard({5});
+    setUpPersonsRace(ONE_LAP, {{5, 8, 2}}); // rounds without a player pass at once
+    liftOffBoard(5);
     race.riders[5].skipTurns = 2;
     nextTurn();
     EXPECT_EQ(race.roundNumber, 5);
@@ -134,47 +126,36 @@ TEST(SetBack, OnHisOwnSquareIfItIsFree)
 
 TEST(SetBack, FirstToTheLeftThenFromTheRightOfTheRowBehind)
 {
-    setUpPersonsRace(ONE_LAP, {{5, 7, 2}, {6, 8, 1}, {7, 12, 4}});
-    waitOffBoard({5, 6, 7});
-    course.courseOccupant[7][2] = 0;
-    course.courseOccupant[8][1] = 1;
-    course.courseOccupant[8][0] = 2;
-    course.courseOccupant[12][4] = 3;
-    nextTurn();
+    setBack(ONE_LAP, {{5, 7, 2}, {6, 8, 1}, {7, 12, 4}}, {{7, 2}, {8, 1}, {8, 0}, {12, 4}});
     EXPECT_EQ(squareOfRider(7), (Square{11, 2})); // row 12 has no other square, row 11 lanes 1, 2
     EXPECT_EQ(squareOfRider(6), (Square{7, 4}));
     EXPECT_EQ(squareOfRider(5), (Square{7, 1})); // not 7, 3
     EXPECT_EQ(occupant(7, 1), 5);
-}
 
-TEST(SetBack, FrontMostFirstThenTheLowerIndex)
-{
-    setUpPersonsRace(ONE_LAP, {{0, 7, 4}, {9, 7, 4}, {4, 8, 0}});
-    waitOffBoard({0, 9, 4});
-    course.courseOccupant[8][0] = 12;
-    nextTurn();
+    // The front-most first, then the lower index.
+    setBack(ONE_LAP, {{0, 7, 4}, {9, 7, 4}, {4, 8, 0}}, {{8, 0}});
     EXPECT_EQ(squareOfRider(4), (Square{7, 4}));
     EXPECT_EQ(squareOfRider(0), (Square{7, 3}));
     EXPECT_EQ(squareOfRider(9), (Square{7, 2}));
+
+    setBack(TWO_LAPS, {{5, 7, 2}}, {{116, 5}}); // the same printed square
+    EXPECT_EQ(squareOfRider(5), (Square{7, 1}));
 }
 
-TEST(SetBack, APrintedSquareIsTakenOnEveryLap)
+TEST(SetBack, OverTheLineOfALapHeIsInTheLapBehindIt)
 {
-    setUpPersonsRace(TWO_LAPS, {{5, 7, 2}, {0, 116, 5, MOVED}});
-    waitOffBoard({5});
-    nextTurn();
-    EXPECT_EQ(squareOfRider(5), (Square{7, 1}));
+    setBack(ONE_LAP, {{5, 6, 0}}, {{6, 0}});
+    EXPECT_EQ(squareOfRider(5), (Square{5, 4}));
+    EXPECT_EQ(onTurn(), (OnTurn{5, STATE_TURN}));
+    EXPECT_EQ(race.riderLapCount[5], 0);
 }
 
 TEST(SetBack, WithoutASquareHeIsPassedOver)
 {
-    setUpPersonsRace(ONE_LAP, {{5, 40, 0}, {6, 0, 0}, {7, 60, 4, MOVED}});
-    waitOffBoard({5, 6});
-    course.courseOccupant[0][0] = 0;
-    nextTurn();
+    setBack(ONE_LAP, {{5, 40, 0}, {6, 0, 0}}, {{0, 0}});
     EXPECT_EQ(race.riders[6].offBoard, 1);
     EXPECT_EQ(race.riders[5].offBoard, 0);
-    EXPECT_EQ(race.currentRider, 7);
+    EXPECT_EQ(race.currentRider, 5);
 }
 
 // At the very back there may be no square for him. He plays all the same, and his first step brings
@@ -182,26 +163,26 @@ TEST(SetBack, WithoutASquareHeIsPassedOver)
 TEST(SetBack, WhoFoundNoSquareIsBackOnceHeHasMoved)
 {
     for (const bool person : {true, false}) {
-        setUpPersonsRace(ONE_LAP, {{0, 0, 0}, {1, 0, 1}, {2, 0, 2}, {3, 0, 3}, {4, 0, 4}});
-        if (!person)
-            for (int rider = 0; rider < RIDERS_PER_TEAM; ++rider)
-                race.riders[rider].isHuman = 0;
+        setUpRace(
+            ONE_LAP,
+            {{0, 0, 0}, {1, 0, 1, MOVED}, {2, 0, 2, MOVED}, {3, 0, 3, MOVED}, {4, 0, 4, MOVED}});
+        if (person)
+            makeHuman(0);
         race.riders[0].offBoard = 1;
+        race.riders[5] = {.row = 0, .lane = 0, .hasMoved = 1};
         course.courseOccupant[0][0] = 5;
-        race.riders[5] = {.row = 0, .lane = 0, .hasMoved = 1, .isHuman = 1};
-        for (const int rider : {1, 2, 3, 4})
-            race.riders[rider].hasMoved = 1;
         nextTurn();
         ASSERT_EQ(race.currentRider, 0);
         EXPECT_EQ(occupant(0, 0), 5);
         if (person) {
-            beginPersonsMove(0, 1);
-            course.courseOccupant[0][0] = 5;
+            throwNumber(raceThrow(1, 1));
+            steer("M");
+            EXPECT_EQ(race.riders[0].offBoard, 0); // and is seen there
             steer("M");
             endHumanMove();
         } else {
-            while (gameState == STATE_ANIMATE && race.currentRider == 0)
-                advanceComputerRace();
+            while (race.riders[0].hasMoved == 0)
+                ASSERT_TRUE(advanceComputerRace());
         }
         EXPECT_EQ(race.riders[0].offBoard, 0);
         EXPECT_GT(race.riders[0].row, 0);

@@ -1,8 +1,5 @@
 #include "race/scoring.h"
 
-#include "app/game_state.h"
-#include "app/view.h"
-#include "board/course.h"
 #include "play/stage_end.h"
 #include "play/turn_cycle.h"
 #include "race/soundness.h"
@@ -10,24 +7,15 @@
 #include "support/own_folder.h"
 #include "support/races.h"
 
-#include <algorithm>
 #include <gtest/gtest.h>
-
-#include <filesystem>
 
 namespace
 {
 
-constexpr std::string_view THREE_SPRINTS = "01S23S4S5F12"; // rows 30, 60, 97; finish row 114
-constexpr std::string_view ONE_SPRINT = "64S5F12";         // row 43; finish row 60
+namespace fs = std::filesystem;
 
 using Slots = Table<int, RESULT_SLOT_COUNT>;
 using Sums = Table<int, TEAM_COUNT>;
-
-std::ptrdiff_t placesTaken()
-{
-    return RESULT_SLOT_COUNT - std::ranges::count(race.resultSlots, -1);
-}
 
 struct Place {
     int slot;
@@ -42,30 +30,37 @@ Slots places(std::initializer_list<Place> given)
     return slots;
 }
 
+// The end of a stage of a race of several, with these places.
+void endStage(const Slots& slots)
+{
+    setUpRace(FROM_START_2, {});
+    raceSetup.multiStage = true;
+    raceSetup.raceFileName = "Tour.race";
+    race.resultSlots = slots;
+}
+
 } // namespace
 
 TEST(Crossing, ALineIsCrossedByLeavingItsRow)
 {
-    setUpRace(THREE_SPRINTS, {});
+    setUpRace(ONE_LAP, {});
     recordCrossing(29, 30, 5);
-    EXPECT_EQ(placesTaken(), 0);
+    EXPECT_EQ(race.resultSlots, places({}));
     recordCrossing(30, 31, 5);
-    EXPECT_EQ(race.resultSlots[0], 5);
     recordCrossing(31, 35, 5);
-    EXPECT_EQ(placesTaken(), 1);
-}
-
-TEST(Crossing, OneMoveMayCrossSeveralLines)
-{
-    setUpRace(THREE_SPRINTS, {});
+    EXPECT_EQ(race.resultSlots, places({{0, 5}}));
     recordCrossing(97, 99, 3);
-    recordCrossing(60, 115, 7);
-    EXPECT_EQ(race.resultSlots, places({{3, 7}, {6, 3}, {7, 7}, {FINISH_SLOT, 7}}));
+    recordCrossing(60, 115, 7); // several with one move
+    EXPECT_EQ(race.resultSlots, places({{0, 5}, {3, 7}, {6, 3}, {7, 7}, {FINISH_SLOT, 7}}));
+
+    setUpRace(FROM_START_2, {}); // has but one sprint
+    recordCrossing(0, 61, 6);
+    EXPECT_EQ(race.resultSlots, places({{0, 6}, {FINISH_SLOT, 6}}));
 }
 
 TEST(Crossing, ASprintHasThreePlacesTheFinishSixteen)
 {
-    setUpRace(THREE_SPRINTS, {});
+    setUpRace(ONE_LAP, {});
     for (const int rider : {4, 9, 2, 8})
         recordCrossing(97, 98, rider);
     EXPECT_EQ(race.resultSlots, places({{6, 4}, {7, 9}, {8, 2}})); // nothing for the fourth
@@ -74,13 +69,6 @@ TEST(Crossing, ASprintHasThreePlacesTheFinishSixteen)
         recordCrossing(110, 120, rider);
     EXPECT_EQ(race.resultSlots[RESULT_SLOT_COUNT - 1], 0);
     EXPECT_EQ(race.sprintWinner, 15);
-}
-
-TEST(Crossing, SprintsThatTheCourseLacksAreNotCrossed)
-{
-    setUpRace(ONE_SPRINT, {});
-    recordCrossing(0, 61, 6);
-    EXPECT_EQ(race.resultSlots, places({{0, 6}, {FINISH_SLOT, 6}}));
 }
 
 TEST(Points, SprintsCountForThoseWhoFinish)
@@ -108,7 +96,7 @@ TEST(Points, SprintsCountForThoseWhoFinish)
 
 TEST(Points, OfTheRaceAreThoseOfTheStagesEnded)
 {
-    setUpRace(ONE_SPRINT, {});
+    setUpRace(FROM_START_2, {});
     raceSetup.raceStages = {
         {{}, places({{0, 5}, {FINISH_SLOT, 0}})}, // rider 5 didn't finish: no sprint either
         {{}, places({{0, 5}, {FINISH_SLOT, 5}, {FINISH_SLOT + 1, 0}})}};
@@ -128,12 +116,9 @@ TEST(Points, OnEqualSumsTheLowerTeamStandsHigher)
 TEST(CloseStage, AStageOfSeveralIsAddedWithoutTheDisqualifiedAndWritten)
 {
     const OwnFolder folder;
-    setUpRace(ONE_SPRINT, {});
-    raceSetup.multiStage = true;
-    raceSetup.raceFileName = "Tour.race";
+    endStage(places({{FINISH_SLOT, 5}, {FINISH_SLOT + 1, 6}}));
     raceSetup.raceStages.resize(2);
     view.scorecardGeneral = true;
-    race.resultSlots = places({{FINISH_SLOT, 5}, {FINISH_SLOT + 1, 6}});
     race.riders[5].disqualified = 1;
     closeStage();
     EXPECT_EQ(gameState, STATE_FINAL_SCORECARD);
@@ -142,14 +127,14 @@ TEST(CloseStage, AStageOfSeveralIsAddedWithoutTheDisqualifiedAndWritten)
     EXPECT_EQ(raceSetup.raceStages[2].slots, places({{FINISH_SLOT + 1, 6}})); // nobody moves up
     EXPECT_EQ(view.scorecardStage, 2);
     EXPECT_FALSE(view.scorecardGeneral);
-    EXPECT_EQ(std::filesystem::file_size("Tour.race"), 57u + 3 * 116);
+    EXPECT_EQ(fs::file_size("Tour.race"), 57u + 3 * 116);
 }
 
 // A rider behind a sprint line who is set back crosses it again, and both places are his.
 TEST(CloseStage, SecondPlacesAtASprintOutlastTheFile)
 {
     const OwnFolder folder;
-    setUpPersonsRace(THREE_SPRINTS, {{4, 7, 2}, {5, 7, 4}});
+    setUpPersonsRace(ONE_LAP, {{4, 7, 2}, {5, 7, 4}});
     const int line = course.sprintRows[0];
     recordCrossing(line, line + 1, 4);
     liftOffBoard(4);
@@ -160,8 +145,7 @@ TEST(CloseStage, SecondPlacesAtASprintOutlastTheFile)
     EXPECT_EQ(raceFault(), "");
     const auto slots = places({{0, 4}, {1, 4}, {2, 5}, {FINISH_SLOT, 4}});
     ASSERT_EQ(race.resultSlots, slots);
-    raceSetup.multiStage = true;
-    raceSetup.raceFileName = "Tour.race";
+    endStage(slots);
     closeStage();
     ASSERT_TRUE(readRace("Tour.race"));
     EXPECT_EQ(raceSetup.raceStages.at(0).slots, slots);
@@ -171,34 +155,26 @@ TEST(CloseStage, SecondPlacesAtASprintOutlastTheFile)
 TEST(CloseStage, ARaceThatCantBeWrittenIsAskedAboutAndStaysInMemory)
 {
     const OwnFolder folder;
-    setUpRace(ONE_SPRINT, {});
-    raceSetup.multiStage = true;
-    raceSetup.raceFileName = "Tour.race";
-    std::filesystem::create_directory("Tour.race"); // in the way
+    endStage(places({}));
+    raceSetup.multiStage = false;
+    closeStage();
+    EXPECT_EQ(gameState, STATE_FINAL_SCORECARD);
+    EXPECT_TRUE(raceSetup.raceStages.empty() && fs::is_empty(".")); // nothing of a single stage
+
+    endStage(places({}));
+    fs::create_directory("Tour.race"); // in the way
     closeStage();
     EXPECT_EQ(gameState, STATE_SAVE_FAILED);
     retrySave();
     EXPECT_EQ(gameState, STATE_SAVE_FAILED);
-    EXPECT_EQ(raceSetup.raceStages.size(), 1u);
-
-    std::filesystem::remove("Tour.race");
+    fs::remove("Tour.race");
     retrySave();
     EXPECT_EQ(gameState, STATE_FINAL_SCORECARD);
     EXPECT_EQ(returnState, STATE_RACE_CLOSED);
-    EXPECT_EQ(std::filesystem::file_size("Tour.race"), 57u + 116);
+    EXPECT_EQ(fs::file_size("Tour.race"), 57u + 116);
 
     gameState = STATE_SAVE_FAILED;
     abortSave();
     EXPECT_EQ(gameState, STATE_FINAL_SCORECARD);
     EXPECT_EQ(raceSetup.raceStages.size(), 1u);
-}
-
-TEST(CloseStage, ASingleStageLeavesNoRecordAndNoFile)
-{
-    const OwnFolder folder;
-    setUpRace(ONE_SPRINT, {});
-    closeStage();
-    EXPECT_EQ(gameState, STATE_FINAL_SCORECARD);
-    EXPECT_TRUE(raceSetup.raceStages.empty());
-    EXPECT_TRUE(std::filesystem::is_empty("."));
 }

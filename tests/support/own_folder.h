@@ -2,13 +2,14 @@
 
 #include <cstdlib>
 #include <filesystem>
+#include <string>
 
 // An empty folder to stand in while it lives, for tests in which the program writes its files.
 struct OwnFolder {
-    OwnFolder()
+    explicit OwnFolder(const std::string& parent = "/tmp")
     {
-        char name[] = "/tmp/gravelonXXXXXX";
-        folder = mkdtemp(name);
+        std::string name = parent + "/gravelonXXXXXX";
+        folder = mkdtemp(name.data());
         std::filesystem::current_path(folder);
     }
     ~OwnFolder()

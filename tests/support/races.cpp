@@ -1,10 +1,8 @@
 #include "support/races.h"
 
-#include "app/game_state.h"
 #include "app/settings.h"
-#include "app/view.h"
-#include "board/course.h"
 #include "board/rider_motion.h"
+#include "play/cards.h"
 #include "play/doping.h"
 #include "play/events.h"
 #include "play/movement.h"
@@ -37,26 +35,14 @@ void startSeededRace(std::string_view text, unsigned seed)
     startRace();
 }
 
-static void leaveEveryoneOut()
-{
-    for (Rider& rider : race.riders) {
-        rider.row = course.finishRow + 1;
-        rider.lane = 0;
-        rider.finished = rider.hasMoved = 1;
-    }
-}
-
-void setUpRace(std::string_view text, std::initializer_list<Placed> placed)
+void setUpRace(std::string_view text, const std::vector<Placed>& placed)
 {
     startSeededRace(text, 1);
-    leaveEveryoneOut();
-    for (const Placed& one : placed) {
-        Rider& rider = race.riders[one.rider];
-        rider.row = one.row;
-        rider.lane = one.lane;
-        rider.finished = 0;
-        rider.hasMoved = one.hasMoved;
-        course.courseOccupant[one.row][one.lane] = one.rider;
+    for (Rider& rider : race.riders)
+        rider = {.row = course.finishRow + 1, .lane = 0, .hasMoved = 1, .finished = 1};
+    for (const auto& [rider, row, lane, hasMoved] : placed) {
+        race.riders[rider] = {.row = row, .lane = lane, .hasMoved = hasMoved};
+        course.courseOccupant[row][lane] = rider;
     }
     race.roundNumber = 2;
     race.currentRider = -1;
@@ -115,7 +101,7 @@ void runComputerRace()
     }
 }
 
-void setUpPersonsRace(std::string_view text, std::initializer_list<Placed> placed)
+void setUpPersonsRace(std::string_view text, const std::vector<Placed>& placed)
 {
     setUpRace(text, placed);
     for (int team = 0; team < TEAM_COUNT; ++team)
@@ -137,12 +123,33 @@ void steer(std::string_view letters)
         stepRider(letter);
 }
 
-Square squareOfRider(int rider)
+void pickCards(std::initializer_list<int> slots)
 {
-    return {race.riders[rider].row, race.riders[rider].lane};
+    for (const int slot : slots)
+        pickCard(slot);
 }
 
-int occupant(int row, int lane)
+void leaveCards(int team, std::initializer_list<int> slots)
 {
-    return course.courseOccupant[row][lane];
+    for (int slot = 0; slot < SET_CARD_COUNT; ++slot)
+        race.cardUsed[team][slot] = CARD_SPENT;
+    for (const int slot : slots)
+        race.cardUsed[team][slot] = CARD_AVAILABLE;
+}
+
+std::vector<int> spentCards(int team)
+{
+    std::vector<int> spent;
+    for (int slot = 0; slot < SET_CARD_COUNT; ++slot)
+        if (race.cardUsed[team][slot] == CARD_SPENT)
+            spent.push_back(slot);
+    return spent;
+}
+
+void giveWonCard(int slot, int rider, int value)
+{
+    const int team = riderTeam(rider);
+    race.cardUsed[team][slot] = CARD_AVAILABLE;
+    race.wonCardRider[team][slot - SET_CARD_COUNT] = rider;
+    race.wonCardValue[team][slot - SET_CARD_COUNT] = value;
 }

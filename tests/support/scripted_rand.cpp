@@ -1,5 +1,8 @@
 #include "support/scripted_rand.h"
 
+#include "play/cards.h"
+
+#include <stdexcept>
 #include <vector>
 
 static std::vector<int> script;
@@ -28,4 +31,12 @@ ScriptedRand::~ScriptedRand()
 int ScriptedRand::calls() const
 {
     return callCount;
+}
+
+void throwNumber(int number)
+{
+    const ScriptedRand once{number};
+    humanThrow();
+    if (callCount != 1)
+        throw std::logic_error("a throw takes one number");
 }

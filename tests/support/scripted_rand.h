@@ -28,3 +28,6 @@ constexpr int orderThrow(int first, int second)
 {
     return raceThrow(second, first);
 }
+
+// The throw of the person on turn with this number behind it, his only call of rand().
+void throwNumber(int number);
