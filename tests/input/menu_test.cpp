@@ -89,7 +89,7 @@ TEST(Manual, IsLeafedThroughFromEndToEnd)
     EXPECT_EQ(manualPage, 0);
 
     player.special(GLUT_KEY_END);
-    resizeScreen(640, 1000); // with more lines to a page
+    resizeScreen(1250, 1000); // with more lines to a page
     EXPECT_LT(manualPageCount, last);
     EXPECT_EQ(manualPage, manualPageCount - 1) << "the page shown is no more";
     player.type("\x1bm");

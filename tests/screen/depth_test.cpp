@@ -15,14 +15,14 @@ namespace
 {
 
 // Two squares side by side on a straight road, of which one hides the other from a camera.
-struct Pair {
+struct Neighbours {
     Square nearer, farther;
     double straight = 0.0; // 1 exactly behind each other, 0 beside each other
 };
 
-Pair pairBefore(const Eye& eye)
+Neighbours pairBefore(const Eye& eye)
 {
-    Pair best;
+    Neighbours best;
     for (int row = 0; row < course.courseRowCount; ++row)
         for (int lane = 0; lane + 1 < COURSE_LANES; ++lane) {
             if (!isRealSquare(squareAt(row, lane)) || !isRealSquare(squareAt(row, lane + 1)))
@@ -66,7 +66,7 @@ TEST(Depth, ARiderStandsInFrontOfTheOneBehindHimUnderEveryCamera)
     for (int i = 0; i < PERSPECTIVE_CAMERA_COUNT; ++i) {
         const int camera = FIRST_PERSPECTIVE_CAMERA + i;
         const Image nobody = seenWith(camera, {});
-        const Pair pair = pairBefore(cameraEyes[i]);
+        const Neighbours pair = pairBefore(cameraEyes[i]);
         ASSERT_GT(pair.straight, 0.95) << camera;
         for (const int rider : {GREEN, RED}) {
             const Placed nearer = {rider, pair.nearer.row, pair.nearer.lane};

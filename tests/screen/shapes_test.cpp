@@ -141,6 +141,8 @@ TEST(Shapes, EverythingHasItsRoomOnEveryMonitor)
             takeWindowSize(shape.width, shape.height);
             if (logicalWindowW() < 640 || logicalWindowH() < 480)
                 continue;
+            settings = {};
+            ratioChosenByProgram = false;
             computeLayout(logicalWindowW(), logicalWindowH());
             EXPECT_NEAR(aspectFix(), 1.0f, 0.003f);
             EXPECT_TRUE(
