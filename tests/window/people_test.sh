@@ -32,7 +32,7 @@ chooseLanguage()
 nameTeam()
 {
     local before
-    untilChanged "the cursor in the first name" click firstName
+    click firstName
     xdotool key --delay 20 Home Delete Delete Delete Delete Delete Delete Delete Delete Delete Delete
     sleep 0.3
     before=$(look $names)
