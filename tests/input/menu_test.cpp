@@ -1,19 +1,194 @@
 #include "app/game_state.h"
 #include "app/settings.h"
+#include "board/course.h"
+#include "play/start.h"
 #include "race/race_state.h"
 #include "screen/support/gl_window.h"
 #include "screen/support/player.h"
 #include "store/settings_file.h"
+#include "support/fake_host.h"
 #include "support/own_folder.h"
 #include "ui/layout.h"
 #include "ui/manual_pages.h"
 #include "ui/places.h"
+#include "ui/settings_screen.h"
 #include "ui/texts.h"
 
 #include <GL/freeglut.h>
 #include <gtest/gtest.h>
 
-// The choice of a language and the manual.
+#include <cstdlib>
+#include <utility>
+
+namespace
+{
+
+using Fields = Table<std::string, SETTINGS_FIELD_COUNT>;
+
+// The settings over the main menu, in a folder of their own.
+class SettingsScreenTest : public testing::Test
+{
+protected:
+    void SetUp() override { open({}); }
+
+    void open(const Settings& stored)
+    {
+        startProgram(1280, 1024);
+        settings = stored;
+        fillSettingsFields(settings);
+        player.click(CONTROL_MENU_SETTINGS);
+        ASSERT_EQ(gameState, STATE_SETTINGS);
+    }
+
+    // As the next run will find it.
+    static double storedRatio()
+    {
+        const Settings present = settings;
+        const bool chosen = ratioChosenByProgram;
+        readSettings();
+        ratioChosenByProgram = chosen;
+        return std::exchange(settings, present).ratioW;
+    }
+
+    static const Fields& fields() { return settingsScreen.settingsFieldText; }
+    static int field() { return settingsScreen.settingsActiveField; }
+
+    OwnFolder here;
+    Player player;
+};
+
+} // namespace
+
+TEST_F(SettingsScreenTest, DigitsGoIntoTheOpenFieldsAndOkKeepsThem)
+{
+    player.type("\1777o 5t\t");
+    player.special(GLUT_KEY_END);
+    player.type("\b\b1234");
+    EXPECT_EQ(fields(), (Fields{"75", "124", "200"})) << "on the last place digits overwrite";
+    player.click(settingsField(FIELD_STEP_DELAY));
+    player.key('9');
+    EXPECT_EQ(fields(), (Fields{"75", "129", "200"})) << "a closed field takes no cursor";
+    EXPECT_EQ(settings.stepTime, 0) << "not before OK";
+
+    player.click(CONTROL_SETTINGS_OK);
+    settings = {};
+    readSettings();
+    EXPECT_EQ(settings.stepTime, 75);
+    EXPECT_EQ(settings.stepDistance, 129.0f);
+    EXPECT_EQ(settings.stepDelay, 200);
+}
+
+TEST_F(SettingsScreenTest, KeysGoRoundTheOpenFieldsOnly)
+{
+    player.special(GLUT_KEY_UP);
+    EXPECT_EQ(field(), FIELD_STEP_TIME);
+    player.special({GLUT_KEY_DOWN, GLUT_KEY_DOWN});
+    EXPECT_EQ(field(), FIELD_STEP_DISTANCE);
+    player.key('\r');
+    EXPECT_EQ(field(), FIELD_STEP_TIME);
+    player.held = GLUT_ACTIVE_SHIFT;
+    player.key('\t');
+    EXPECT_EQ(field(), FIELD_STEP_DISTANCE);
+    player.held = 0;
+
+    player.click(CONTROL_STEPWISE);
+    player.type("\t\r");
+    player.special({GLUT_KEY_UP, GLUT_KEY_DOWN});
+    EXPECT_EQ(field(), FIELD_STEP_DELAY);
+    player.click(CONTROL_DEFAULT);
+    EXPECT_EQ(field(), FIELD_STEP_TIME);
+    player.click({CONTROL_STEPWISE, CONTROL_RATIO_43, CONTROL_SETTINGS_CANCEL});
+    player.key('t');
+    EXPECT_EQ(field(), FIELD_STEP_TIME) << "the open one, though the other had been chosen";
+}
+
+TEST_F(SettingsScreenTest, CancelGivesEverythingBack)
+{
+    open({.stepTime = 12, .stepDistance = 7.5f, .ratioW = 5.0, .ratioH = 4.0});
+    player.key('9');
+    player.click({CONTROL_STEPWISE, CONTROL_RATIO_1610});
+    resizeScreen(1000, 800); // laid out for the ratio that is given up
+    EXPECT_LT(layout.viewW, 1000);
+    player.click(CONTROL_SETTINGS_CANCEL);
+    EXPECT_EQ(gameState, STATE_MAIN_MENU);
+    EXPECT_EQ(layout.viewW, 1000);
+    EXPECT_EQ(settings.smoothMovement, 1);
+    EXPECT_EQ(settings.stepDistance, 7.5f);
+    EXPECT_EQ(settings.ratioW, 5.0);
+    EXPECT_EQ(fields(), (Fields{"12", "7", "200"}));
+    EXPECT_FALSE(std::filesystem::exists("settings"));
+}
+
+// What the program had guessed from the window's size is a guess again, made anew at the next size.
+TEST_F(SettingsScreenTest, CancelBringsBackTheGuess)
+{
+    startProgram(1280, 1024);
+    ASSERT_TRUE(ratioChosenByProgram);
+    player.click(
+        {CONTROL_MENU_SETTINGS, CONTROL_RATIO_1610, CONTROL_RATIO_43, CONTROL_SETTINGS_CANCEL});
+    EXPECT_EQ(settings.ratioW, 5.0);
+    resizeScreen(1600, 1000);
+    EXPECT_EQ(settings.ratioW, 16.0);
+
+    player.click({CONTROL_MENU_SETTINGS, CONTROL_SETTINGS_OK});
+    EXPECT_EQ(storedRatio(), -1.0) << "not chosen by anybody";
+    player.click({CONTROL_MENU_SETTINGS, CONTROL_RATIO_1610, CONTROL_SETTINGS_OK});
+    EXPECT_EQ(storedRatio(), 16.0) << "chosen, though it is what had been guessed";
+    resizeScreen(1280, 1024);
+    EXPECT_EQ(settings.ratioW, 16.0);
+}
+
+TEST_F(SettingsScreenTest, DefaultsCountWithOkOnlyAndLeaveTheRatio)
+{
+    open({.smoothMovement = 0, .stepTime = 12, .stepDelay = 5, .ratioW = 4.0, .ratioH = 3.0});
+    player.click(CONTROL_DEFAULT);
+    EXPECT_EQ(fields(), (Fields{"0", "10", "200"}));
+    EXPECT_EQ(settings.stepDelay, 5);
+    player.click(CONTROL_SETTINGS_OK);
+    EXPECT_EQ(settings.stepDelay, 200);
+    EXPECT_EQ(settings.smoothMovement, 1);
+    EXPECT_EQ(settings.ratioW, 4.0);
+}
+
+TEST_F(SettingsScreenTest, AnEmptyFieldIsNoughtAndAFileThatCantBeWrittenNoObstacle)
+{
+    std::filesystem::create_directory("settings");
+    player.key('\177');
+    player.click({CONTROL_STEPWISE, CONTROL_SETTINGS_OK});
+    EXPECT_EQ(gameState, STATE_MAIN_MENU);
+    EXPECT_EQ(settings.stepTime, 0);
+    EXPECT_EQ(settings.smoothMovement, 0);
+    EXPECT_EQ(fields()[FIELD_STEP_TIME], "0");
+}
+
+TEST_F(SettingsScreenTest, AMoveIsFrozenAndGoesOnUnderTheNewRatio)
+{
+    player.click(CONTROL_SETTINGS_CANCEL);
+    std::srand(11);
+    courseText = "01S23S4S5F12";
+    startRace();
+    while (gameState == STATE_ORDER_RESULT)
+        player.click(CONTROL_NEXT);
+    for (int tick = 0; tick < 5; ++tick)
+        runTick();
+    ASSERT_EQ(gameState, STATE_ANIMATE);
+    const Rider& rider = race.riders[race.currentRider];
+    const float x = rider.x;
+
+    player.press(placeOf(CONTROL_RACE_SETTINGS));
+    ASSERT_EQ(gameState, STATE_SETTINGS);
+    runTimer();
+    player.click({CONTROL_RATIO_43, CONTROL_SETTINGS_OK});
+    EXPECT_EQ(layout.viewW, 1200);
+    EXPECT_EQ(gameState, STATE_ANIMATE);
+    EXPECT_EQ(rider.x, x);
+    EXPECT_EQ(fakeHost.pendingMs, 0);
+    runTick();
+    runTick();
+    EXPECT_NE(rider.x, x);
+    player.type("ee"); // the second one is no letter of this screen
+    EXPECT_EQ(gameState, STATE_SETTINGS);
+}
 
 TEST(Languages, TheRowUnderThePointerIsLitAndAClickKeepsIt)
 {

@@ -32,14 +32,6 @@ void startRaceOn(const char* text, bool ofPersons = false)
     startRace();
 }
 
-void goToFirstMove()
-{
-    startRaceOn("01S23S4S5F12");
-    while (gameState == STATE_ORDER_RESULT)
-        Player().click(CONTROL_NEXT);
-    ASSERT_EQ(gameState, STATE_ANIMATE);
-}
-
 // A person's rider in round 2, alone on the road, on a flat square.
 void startPersonsTurn(int rider)
 {
@@ -141,38 +133,6 @@ TEST(Mouse, CamerasAndViewsTakeTurns)
     }
 }
 
-TEST(Mouse, TheQuestionFreezesTheMoveAndNoGoesOnWithIt)
-{
-    goToFirstMove();
-    runTick();
-    runTick();
-    const int steps = race.stepsTaken;
-    Player player;
-    player.click(CONTROL_QUIT);
-    ASSERT_EQ(gameState, STATE_CONFIRM_QUIT);
-    const float x = race.riders[race.currentRider].x;
-    runTimer();
-    EXPECT_EQ(race.riders[race.currentRider].x, x);
-    player.click(CONTROL_QUIT_NO);
-    EXPECT_EQ(gameState, STATE_ANIMATE);
-    EXPECT_EQ(race.stepsTaken, steps);
-    EXPECT_TRUE(runTick());
-}
-
-TEST(Mouse, OkTakesARiderWhoIsStuckOffTheBoardOnce)
-{
-    startProgram(640, 512);
-    setUpPersonsRace("01S23S4S5F12", {{0, 8, 3}, {4, 6, 3}, {8, 4, 3}});
-    beginPersonsTurn(0);
-    gameState = STATE_NO_MOVE;
-    Player player;
-    player.click(CONTROL_NO_MOVE_OK);
-    EXPECT_EQ(race.riders[0].offBoard, 1);
-    EXPECT_EQ(race.currentRider, 4);
-    EXPECT_EQ(gameState, STATE_TURN);
-}
-
-// A click opens the question, in the course of which the box slides under the pointer's place.
 TEST(Mouse, ADialogSlidesAlongTheEdgesAndStaysWhole)
 {
     startRaceOn("64S5F12");
@@ -196,6 +156,24 @@ TEST(Mouse, ADialogSlidesAlongTheEdgesAndStaysWhole)
     EXPECT_NEAR(dialogTitleBar().y, bar.y - 2.0f, 1.0f) << "let go";
     player.click(CONTROL_QUIT_NO);
     EXPECT_EQ(gameState, STATE_ORDER_RESULT) << "the buttons went along";
+
+    player.click(CONTROL_SCORECARD);
+    const Rect sheet = scorecardTitleBar();
+    player.press(sheet);
+    player.dragTo(sheet.x + sheet.w * 0.5f - 100.0f, sheet.y + sheet.h * 0.5f + 20.0f);
+    player.release(0.0f, 0.0f);
+    EXPECT_NEAR(scorecardBox().x, sheet.x - 100.0f, 1.0f);
+    EXPECT_NEAR(scorecardTitleBar().y, sheet.y + 20.0f, 1.0f);
+    const Rect box = scorecardBox();
+    for (int i = CONTROL_SHEET_OK; i <= CONTROL_NEXT_STAGE; ++i) {
+        const Rect button = placeOf(static_cast<Control>(i));
+        EXPECT_TRUE(button.x >= box.x && button.x + button.w <= box.x + box.w &&
+                    button.y >= box.y && button.y + button.h <= box.y + box.h)
+            << i;
+    }
+    resizeScreen(800, 640);
+    resizeScreen(640, 512);
+    EXPECT_NEAR(scorecardBox().x, sheet.x, 1.0f) << "until the next layout";
 }
 
 // Dialogs have been dragged to where the button is that brings one up.
@@ -253,14 +231,14 @@ TEST(Keyboard, AKeyCountsAsItWasPressedWhateverIsLetGoFirst)
     player.held = GLUT_ACTIVE_CTRL | someLock;
     player.press('s' - 'a' + 1); // as a letter comes with Control
     player.held = 0;
-    player.key('s');
+    player.release('s');
     EXPECT_EQ(gameState, STATE_MAIN_MENU);
     player.held = GLUT_ACTIVE_SHIFT | someLock;
     player.key('S');
     EXPECT_EQ(gameState, STATE_TEAM_SETUP);
     player.press('\xC4');
     player.held = 0;
-    player.key('\xE4');
+    player.release('\xE4');
     EXPECT_EQ(raceSetup.teamName[0].substr(0, 1), "\xC4");
 }
 
@@ -346,36 +324,4 @@ TEST(Keyboard, ArrowsMoveTheCursorOnThePicture)
         EXPECT_EQ(race.placingRow, 1);
         EXPECT_EQ(race.placingLane, lane);
     }
-}
-
-// From the first click to the final scorecard and back, with nothing but clicks.
-TEST(WatchedRace, RunsFromTheMenuToTheScorecardWithClicksAlone)
-{
-    startProgram(320, 256);
-    std::srand(1);
-    settings.stepDistance = 999.0f;
-    Player player;
-    player.click(CONTROL_START);
-    raceSetup.multiStage = false; // on so small a screen its button lies under a name
-    player.click(CONTROL_TEAM_OK);
-    player.hover(coursePicture(3));
-    player.click(coursePicture(3));
-    for (int events = 0; gameState != STATE_FINAL_SCORECARD; ++events) {
-        ASSERT_LT(events, 20000) << "the race doesn't end";
-        if (gameState == STATE_ORDER_RESULT)
-            player.click(CONTROL_NEXT);
-        else if (gameState == STATE_ANIMATE)
-            ASSERT_TRUE(runTick());
-        else
-            player.click(CONTROL_EVENT_OK); // that of any message
-    }
-    EXPECT_EQ(fakeHost.pendingMs, -1);
-    for (int place = FINISH_SLOT; place < RESULT_SLOT_COUNT; ++place)
-        EXPECT_NE(race.resultSlots[place], -1);
-    resizeScreen(1280, 1024);
-    EXPECT_GT(countPixels(screenshot(), scorecardBox(), pixelOf(YELLOW)), 50)
-        << "the winner's pawn";
-    player.click(CONTROL_SHEET_QUIT);
-    EXPECT_EQ(gameState, STATE_MAIN_MENU);
-    EXPECT_EQ(race.sprintWinner, -1);
 }

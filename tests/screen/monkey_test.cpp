@@ -3,7 +3,6 @@
 #include "app/settings.h"
 #include "app/view.h"
 #include "board/course.h"
-#include "board/pictures.h"
 #include "input/keyboard.h"
 #include "input/mouse.h"
 #include "race/race_state.h"
@@ -20,8 +19,8 @@
 #include <GL/freeglut.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdlib>
-#include <filesystem>
 #include <fstream>
 #include <random>
 #include <string>
@@ -46,12 +45,11 @@ class Monkey
 public:
     explicit Monkey(unsigned seed) : generator(seed) {}
 
-    int below(int count) { return std::uniform_int_distribution<int>(0, count - 1)(generator); }
-
     void act()
     {
         if (below(3) == 0)
             return doTheSensibleThing();
+        const std::vector<Rect> places = everyPlace();
         switch (below(12)) {
         case 0:
             return resizeOrWait();
@@ -63,97 +61,64 @@ public:
         case 4:
             return (below(2) ? onDrag : onHover)(anyX(), anyY());
         case 5:
-            return clickAnywhere();
+            return clickAt(anyX(), anyY());
         case 6:
         case 7:
             return letTimePass();
         default:
-            return clickControl();
+            return clickOn(
+                places[static_cast<std::size_t>(below(static_cast<int>(places.size())))]);
         }
     }
 
 private:
+    int below(int count) { return std::uniform_int_distribution<int>(0, count - 1)(generator); }
+    int anyX() { return below(layout.windowW + 40) - 20; }
+    int anyY() { return below(layout.windowH + 40) - 20; }
+
     // Left to himself he would hardly ever come to a race, and quit it as soon as he had.
     void doTheSensibleThing()
     {
         switch (gameState) {
         case STATE_MAIN_MENU:
-            return clickOn(below(2) == 0 ? CONTROL_CONTINUE : CONTROL_START);
+            return clickOn(placeOf(below(2) == 0 ? CONTROL_CONTINUE : CONTROL_START));
         case STATE_TEAM_SETUP:
-            return nameTeams();
+            raceSetup.multiStage = below(2) == 0;
+            raceSetup.raceName = "Race " + std::to_string(below(1000));
+            raceSetup.teamName = {"A", "B", "C", "D"};
+            clickOn(placeOf(static_cast<Control>(CONTROL_COMPUTER_1 + below(TEAM_COUNT))));
+            return clickOn(placeOf(CONTROL_TEAM_OK));
         case STATE_COURSE_SELECT:
-            return below(3) == 0 ? clickOn(CONTROL_CREATE_COURSE)
-                                 : clickOn(coursePicture(below(FIXED_COURSE_COUNT)));
-        case STATE_COURSE_DESIGN:
-            return clickOn(CONTROL_ADD_SECTION);
+            return clickOn(below(3) == 0 ? placeOf(CONTROL_CREATE_COURSE)
+                                         : coursePicture(below(4)));
         case STATE_CONFIRM_QUIT:
-            return clickOn(below(20) == 0 ? CONTROL_QUIT_YES : CONTROL_QUIT_NO);
-        case STATE_SAVE_FAILED:
-            return clickOn(CONTROL_ABORT);
+            return clickOn(placeOf(below(20) == 0 ? CONTROL_QUIT_YES : CONTROL_QUIT_NO));
         case STATE_RACE_FILES:
-            return chooseRace();
+            clickOn({raceListNames().x, raceListNames().y + static_cast<float>(below(40)), 30.0f});
+            return clickOn(placeOf(static_cast<Control>(CONTROL_LIST_OK + below(3))));
         case STATE_EVENT_HANDIN:
             onSpecialUp(GLUT_KEY_F1 + below(12), 0, 0);
-            return clickOn(CONTROL_HAND_IN);
+            return clickOn(placeOf(CONTROL_HAND_IN));
         case STATE_TURN:
-            return clickOn(below(4) == 0 ? CONTROL_DOPING : CONTROL_THROW);
+            return clickOn(placeOf(below(4) == 0 ? CONTROL_DOPING : CONTROL_THROW));
         case STATE_MOVE:
             return onSpecialUp(GLUT_KEY_LEFT + below(3), 0, 0);
         case STATE_PLACE_HUMAN:
             onSpecialUp(GLUT_KEY_LEFT + below(4), 0, 0);
             return onKeyUp('\r', 0, 0);
-        case STATE_SETTINGS:
-            return clickOn(CONTROL_SETTINGS_CANCEL);
-        case STATE_ANIMATE:
-        case STATE_LANGUAGE:
-            return letTimePass();
         default:
-            return clickOn(firstLive());
+            return clickFirstLive();
         }
     }
 
-    // "OK", "Yes", "Throw" or "Next", wherever there is one.
-    static Control firstLive()
+    // "OK", "Yes", "Throw" or "Next", wherever there is one; else he waits.
+    void clickFirstLive()
     {
-        for (int control = 0; control < CONTROL_COUNT; ++control)
-            if (isLive(static_cast<Control>(control)) &&
-                (control < CONTROL_TAB_1 || control > CONTROL_CAMERA))
-                return static_cast<Control>(control);
-        return CONTROL_EXIT;
+        for (int i = 0; i < CONTROL_COUNT; ++i)
+            if (isLive(static_cast<Control>(i)) && (i < CONTROL_TAB_1 || i > CONTROL_CAMERA))
+                return clickOn(placeOf(static_cast<Control>(i)));
+        letTimePass();
     }
-
-    void nameTeams()
-    {
-        raceSetup.multiStage = below(2) == 0;
-        raceSetup.raceName = "Race " + std::to_string(below(1000));
-        for (std::string& name : raceSetup.teamName)
-            if (name.empty())
-                name = "Somebody";
-        clickOn(static_cast<Control>(CONTROL_COMPUTER_1 + below(TEAM_COUNT)));
-        clickOn(CONTROL_TEAM_OK);
-    }
-
-    void chooseRace()
-    {
-        const Rect names = raceListNames();
-        const Control buttons[] = {CONTROL_LIST_OK, CONTROL_LIST_SCORECARD, CONTROL_LIST_BACK};
-        clickOn({names.x, names.y + static_cast<float>(below(40)), 30.0f, 1.0f});
-        clickOn(buttons[below(3)]);
-    }
-
-    void clickOn(Control control) { clickOn(placeOf(control)); }
-
-    void clickOn(const Rect& at)
-    {
-        const int x = layout.viewX + static_cast<int>(at.x + at.w * 0.5f);
-        const int y = static_cast<int>(at.y + at.h * 0.5f);
-        onHover(x, y);
-        onMouse(GLUT_LEFT_BUTTON, GLUT_DOWN, x, y);
-        onMouse(GLUT_LEFT_BUTTON, GLUT_UP, x, y);
-    }
-
-    int anyX() { return below(layout.windowW + 40) - 20; }
-    int anyY() { return below(layout.windowH + 40) - 20; }
 
     void letTimePass()
     {
@@ -170,25 +135,22 @@ private:
         resizeScreen(size[0], size[1]);
     }
 
+    void clickOn(const Rect& at)
+    {
+        clickAt(layout.viewX + static_cast<int>(at.x + at.w * 0.5f),
+                static_cast<int>(at.y + at.h * 0.5f));
+    }
+
+    // Most often with the left button, and without moving it meanwhile.
     void clickAt(int x, int y)
     {
-        const int button = std::max(GLUT_LEFT_BUTTON, below(8) - 3); // left in half of all cases
+        const int button = std::max(GLUT_LEFT_BUTTON, below(24) - 19);
         onHover(x, y);
         onMouse(button, GLUT_DOWN, x, y);
-        if (below(8) == 0)
+        if (below(16) == 0)
             onDrag(anyX(), anyY());
         if (below(16) != 0)
             onMouse(button, GLUT_UP, x, y);
-    }
-
-    void clickAnywhere() { clickAt(anyX(), anyY()); }
-
-    void clickControl()
-    {
-        const std::vector<Rect> places = everyPlace();
-        const Rect& at = places[static_cast<std::size_t>(below(static_cast<int>(places.size())))];
-        clickAt(layout.viewX + static_cast<int>(at.x + at.w * 0.5f),
-                static_cast<int>(at.y + at.h * 0.5f));
     }
 
     void hold()
@@ -200,23 +162,18 @@ private:
 
     void pressKey()
     {
-        constexpr unsigned char keys[] = "\r\r\r  \t\b\x7f\x1b"
-                                         "yntoqsdbaucpmelrjvwghzi0159-\xE9\xD0";
+        constexpr std::string_view keys = "\r\r\r  \t\b\x7f\x1b"
+                                          "yntoqsdbaucpmelrjvwghzi0159-\xE9\xD0";
         hold();
-        const unsigned char key = below(10) == 0
-                                      ? static_cast<unsigned char>(below(256))
-                                      : keys[below(static_cast<int>(std::size(keys)) - 1)];
-        onKeyDown(key, 0, 0);
-        onKeyUp(key, 0, 0);
+        const int key = below(10) == 0 ? below(256) : keys[static_cast<std::size_t>(below(37))];
+        onKeyDown(static_cast<unsigned char>(key), 0, 0);
+        onKeyUp(static_cast<unsigned char>(key), 0, 0);
     }
 
     void pressSpecialKey()
     {
-        constexpr int keys[] = {GLUT_KEY_LEFT, GLUT_KEY_UP,      GLUT_KEY_UP,        GLUT_KEY_RIGHT,
-                                GLUT_KEY_DOWN, GLUT_KEY_PAGE_UP, GLUT_KEY_PAGE_DOWN, GLUT_KEY_HOME,
-                                GLUT_KEY_END,  GLUT_KEY_INSERT};
         hold();
-        const int key = below(3) == 0 ? GLUT_KEY_F1 + below(12) : keys[below(10)];
+        const int key = below(3) == 0 ? GLUT_KEY_F1 + below(12) : GLUT_KEY_LEFT + below(9);
         for (int times = below(4); times >= 0; --times)
             onSpecialUp(key, 0, 0);
     }
@@ -229,9 +186,9 @@ std::string fault()
     if (settings.stepTime < 0 || settings.stepTime > SETTINGS_NUMBER_MAX ||
         settings.stepDelay < 0 || settings.stepDelay > SETTINGS_NUMBER_MAX)
         return "a setting is out of its range";
-    for (const std::string& name : raceSetup.teamName)
-        if (name.size() > NAME_LENGTH_MAX)
-            return "a team's name is too long";
+    if (std::ranges::any_of(raceSetup.teamName,
+                            [](const std::string& name) { return name.size() > NAME_LENGTH_MAX; }))
+        return "a team's name is too long";
     for (const StageRecord& stage : raceSetup.raceStages)
         for (const int rider : stage.slots)
             if (rider < -1 || rider >= RIDER_COUNT)

@@ -3,6 +3,7 @@
 #include "app/view.h"
 #include "board/course.h"
 #include "play/movement.h"
+#include "race/event_deck.h"
 #include "race/race_state.h"
 #include "race/rider_place.h"
 #include "screen/support/drawn_texts.h"
@@ -11,20 +12,30 @@
 #include "support/own_folder.h"
 #include "support/races.h"
 #include "support/scripted_rand.h"
+#include "ui/event_texts.h"
 #include "ui/layout.h"
 #include "ui/places.h"
 
 #include <gtest/gtest.h>
+
+#include <filesystem>
 
 // What the race says in words, numbers and colours: the panel, the dialogs and the positions.
 
 namespace
 {
 
-void setEnglishScene(Scene scene)
+// Each test in a folder of its own.
+class RaceWords : public testing::Test
 {
-    setScene(scene, LANGUAGE_ENGLISH);
-}
+protected:
+    void SetUp() override { startProgram(1280, 1024); }
+    ~RaceWords() override { settings = {}; }
+
+    static void setEnglishScene(Scene scene) { setScene(scene, LANGUAGE_ENGLISH); }
+
+    OwnFolder here;
+};
 
 // From the extra die to the side buttons.
 std::string panelWords()
@@ -54,10 +65,8 @@ std::string cardLooks(int slot)
 
 } // namespace
 
-TEST(Panel, TellsATurnFromItsBeginningToTheNextRiders)
+TEST_F(RaceWords, TellsATurnFromItsBeginningToTheNextRiders)
 {
-    const OwnFolder folder;
-    startProgram(1280, 1024);
     setEnglishScene(SCENE_TURN);
     Player player;
     EXPECT_EQ(panelWords(), "Belgium|Moves: |Moves left: |Round:2|Lap:0");
@@ -77,10 +86,8 @@ TEST(Panel, TellsATurnFromItsBeginningToTheNextRiders)
 }
 
 // A team that lost a tie stands grey and without its throw.
-TEST(Panel, TellsTheThrowsForTheOrder)
+TEST_F(RaceWords, TellsTheThrowsForTheOrder)
 {
-    const OwnFolder folder;
-    startProgram(1280, 1024);
     setEnglishScene(SCENE_ORDER_THROW);
     race.teamThrow = {7, 0, -1, 12};
     const Rect box = {layout.diceX - 1.0f, layout.movesBoxY - 9.0f, layout.orderBoxW, 60.0f};
@@ -91,10 +98,8 @@ TEST(Panel, TellsTheThrowsForTheOrder)
         }
 }
 
-TEST(Panel, DialogsNameTheRidersAndNumbersTheyAreAbout)
+TEST_F(RaceWords, DialogsNameTheRidersAndNumbersTheyAreAbout)
 {
-    const OwnFolder folder;
-    startProgram(1280, 1024);
     const std::pair<Scene, const char*> said[] = {
         {SCENE_FOLLOW, "Do you want to follow cyclist 21?|Yes|No"},
         {SCENE_DOPING_NUMBER, "Doping number: 4|OK"},
@@ -113,10 +118,8 @@ TEST(Panel, DialogsNameTheRidersAndNumbersTheyAreAbout)
     EXPECT_EQ(wordsAt(dialogBox()), "Doping control|Drawn numbers: 3 and 1|OK");
 }
 
-TEST(Panel, CardsAreBrightOnlyForTheRiderWhoMayLayThem)
+TEST_F(RaceWords, CardsAreBrightOnlyForTheRiderWhoMayLayThem)
 {
-    const OwnFolder folder;
-    startProgram(1280, 1024);
     setEnglishScene(SCENE_TURN);
     race.cardUsed[0][1] = CARD_SPENT;
     race.cardUsed[0][14] = race.cardUsed[0][15] = CARD_AVAILABLE;
@@ -148,10 +151,8 @@ TEST(Panel, CardsAreBrightOnlyForTheRiderWhoMayLayThem)
 }
 
 // Where there is a place left for one more, in both states that ask for cards.
-TEST(Panel, CardsToHandInAreBrightWhileThereIsAPlaceForThem)
+TEST_F(RaceWords, CardsToHandInAreBrightWhileThereIsAPlaceForThem)
 {
-    const OwnFolder folder;
-    startProgram(1280, 1024);
     for (const auto& [scene, laid] : {std::pair{SCENE_HANDIN, 1}, {SCENE_EVENT_HANDIN, 0}}) {
         setEnglishScene(scene);
         race.handInCards = {laid == 1 ? 12 : -1, -1};
@@ -162,9 +163,8 @@ TEST(Panel, CardsToHandInAreBrightWhileThereIsAPlaceForThem)
     }
 }
 
-TEST(Panel, OnCobblesOneCardAndUphillNoneOfSixIsBright)
+TEST_F(RaceWords, OnCobblesOneCardAndUphillNoneOfSixIsBright)
 {
-    startProgram(1280, 1024);
     setUpPersonsRace("01S23S4S5F12", {{0, 10, 0}});
     beginPersonsTurn(0);
     const auto rideOn = [](int terrain) {
@@ -185,10 +185,8 @@ TEST(Panel, OnCobblesOneCardAndUphillNoneOfSixIsBright)
     EXPECT_EQ(cardLooks(2), "dim");
 }
 
-TEST(Positions, NameTheRaceThatRunsAndWhatIsKnownOfEachRider)
+TEST_F(RaceWords, NameTheRaceThatRunsAndWhatIsKnownOfEachRider)
 {
-    const OwnFolder folder;
-    startProgram(1280, 1024);
     setEnglishScene(SCENE_POSITIONS);
     raceSetup.multiStage = true;
     raceSetup.raceName = "Typed";
@@ -203,9 +201,8 @@ TEST(Positions, NameTheRaceThatRunsAndWhatIsKnownOfEachRider)
     EXPECT_TRUE(screenSays("Single stage") && screenSays("Computer player"));
 }
 
-TEST(Positions, RidersOffTheBoardAreDimAndFinishersGone)
+TEST_F(RaceWords, RidersOffTheBoardAreDimAndFinishersGone)
 {
-    startProgram(1280, 1024);
     startSeededRace("01S23S4S5F12", 3);
     for (int rider = 0; rider < RIDER_COUNT; ++rider)
         race.riders[rider].finished = rider > 2;
@@ -220,4 +217,86 @@ TEST(Positions, RidersOffTheBoardAreDimAndFinishersGone)
             image.at(1280.0f * (0.35f + 0.1f * static_cast<float>(place)), 1024.0f * 0.82f + 9.0f),
             pixelOf(colours[place]), 1))
             << place;
+}
+
+// The dialogs that come up in a race, from the question to what follows from the answer.
+
+TEST_F(RaceWords, DopingIsAskedForTakenAndLaidInAPlace)
+{
+    setEnglishScene(SCENE_TURN);
+    Player player;
+    player.type("dn");
+    EXPECT_EQ(race.dopingNumber[0], -1);
+    player.click({CONTROL_DOPING, CONTROL_DOPING_YES, CONTROL_DOPING_NUMBER_OK});
+    EXPECT_EQ(gameState, STATE_TURN);
+    EXPECT_EQ(race.playedCards[0], DOPING_CARD);
+    player.click(dicePlace(0));
+    EXPECT_EQ(race.playedCards[0], DOPING_CARD) << "it can't be taken back";
+    player.click({CONTROL_BREAKAWAY, CONTROL_DOPING});
+    EXPECT_EQ(race.breakaway, 1);
+    EXPECT_EQ(gameState, STATE_TURN) << "once a stage";
+}
+
+TEST_F(RaceWords, EachRiderCaughtIsCheckedAndTheStageEnds)
+{
+    setEnglishScene(SCENE_DOPING_DRAW);
+    race.dopingNumber = filled<int, RIDER_COUNT>(-1);
+    race.dopingNumber[3] = 1;
+    race.dopingNumber[9] = 3;
+    race.dopingNumber[12] = 5; // neither of the two drawn
+    const ScriptedRand dice{0, 4};
+    Player player;
+    player.click(CONTROL_DOPING_DRAW_OK);
+    EXPECT_EQ(race.currentRider, 3);
+    player.doubleClick(CONTROL_COUNTERCHECK_OK);
+    EXPECT_EQ(gameState, STATE_DOPING_COUNTERCHECK) << "the next one has to be read";
+    EXPECT_EQ(race.currentRider, 9);
+    player.key('o');
+    EXPECT_EQ(gameState, STATE_FINAL_SCORECARD);
+    EXPECT_EQ(race.riders[3].disqualified, 0) << "his own number acquits him";
+    EXPECT_EQ(race.riders[9].disqualified, 1);
+}
+
+// As long as the folder can't be written the question stays; the stage isn't lost either way.
+TEST_F(RaceWords, ARaceThatCantBeSavedIsTriedAgainOrGivenUp)
+{
+    setEnglishScene(SCENE_SAVE_FAILED);
+    Player player;
+    player.click(CONTROL_RETRY);
+    EXPECT_EQ(gameState, STATE_SAVE_FAILED);
+    std::filesystem::create_directory("no such folder here");
+    player.click(CONTROL_RETRY);
+    EXPECT_EQ(gameState, STATE_FINAL_SCORECARD);
+    EXPECT_TRUE(std::filesystem::exists(raceSetup.raceFileName));
+
+    setEnglishScene(SCENE_SAVE_FAILED);
+    player.click(CONTROL_ABORT);
+    EXPECT_EQ(gameState, STATE_FINAL_SCORECARD);
+    EXPECT_EQ(raceSetup.raceStages.size(), 2u);
+}
+
+// A card has words in each language; those for which there is no title show what they do.
+TEST_F(RaceWords, EveryEventCardHasWordsAndTheyAreThoseOfTheLanguage)
+{
+    struct Case {
+        std::vector<int> untitled;
+        const char* crashEffect;
+    };
+    const Case cases[] = {{{19}, "der Verursacher:"},
+                          {{18, 19}, "the perpetrator:"},
+                          {{18, 19}, "l'auteur:"},
+                          {{}, "de veroorzaker:"}};
+    for (settings.language = 0; settings.language < LANGUAGE_COUNT; ++settings.language) {
+        std::vector<int> untitled;
+        for (int card = 0; card < EVENT_CARD_COUNT; ++card) {
+            EXPECT_FALSE(eventEffect(card).empty()) << card;
+            if (eventTitle(card).empty())
+                untitled.push_back(card);
+        }
+        EXPECT_EQ(untitled, cases[settings.language].untitled) << settings.language;
+        EXPECT_EQ(eventEffect(14)[0], cases[settings.language].crashEffect);
+        EXPECT_EQ(eventEffect(14).size(), 5u);
+    }
+    settings.language = -1;
+    EXPECT_TRUE(eventTitle(3).empty() && eventEffect(3).empty());
 }

@@ -4,6 +4,10 @@
 # current folder.
 
 gamePid=
+# Settings in English, smooth, no delay, 999 board units a tick.
+# shellcheck disable=SC2034  # for the tests
+fast='\1\1\0\0\0\0\0\300\171\104\0\0\0\0\0\0\0\0\0\0\360\277\0\0\0\0\0\0\360\277'
+tabColours=(009900 990000 808080 000099)
 declare -A at # middle of each control on the screen, as "x y"
 
 fail()
@@ -18,24 +22,18 @@ endGame()
     [ -z "$gamePid" ] || kill "$gamePid" 2> /dev/null || true
 }
 
-# Finds places on the screen: awk that calls put(NAME, X, Y) with pixels, from the display's width w
-# and height h, and v, the width of the drawing area, which is w on a screen of 5:4.
-placeControls()
+# Where the controls are on a full-screen window of the display's size, and those that only a person
+# needs on one of 5:4. The same fractions as the layout's, so that a control that has moved is a test
+# that fails.
+findControls()
 {
     local width height name place
     read -r width height < <(xdotool getdisplaygeometry)
     while read -r name place; do
         at[$name]=$place
-    done < <(awk -v w="$width" -v v="$width" -v h="$height" '
+    done < <(awk -v w="$width" -v h="$height" '
         function put(name, x, y) { printf "%s %d %d\n", name, left + x, y }
-        BEGIN {'"$1"'}')
-}
-
-# Where the controls are on a full-screen window of the display's size. The same fractions as the
-# layout's, so that a control that has moved is a test that fails.
-findControls()
-{
-    placeControls '
+        BEGIN {
             shape = w / h
             if (shape >= 1.6) share = 25 / 32
             else if (shape == 1.25) share = 1
@@ -73,7 +71,26 @@ findControls()
             put("sheetOk", dialogX + dialogW * 0.85, cardY + sheetH - buttonH * 0.7)
             for (i = 0; i < 4; i++)
                 put("tab" i, panelX + (i + 0.1) * panelW * 0.25, hud + h * 0.176 + v * 0.017)
-    '
+            put("languages", v * 0.5, h * 0.3 + 10)
+            put("french", v * 0.5, h * (0.1 + 2 * 0.217 + 0.075))
+            put("english", v * 0.5, h * (0.1 + 0.217 + 0.075))
+            put("firstName", v * 0.4 + 3, h * 0.4 + 7)
+            for (i = 0; i < 2; i++) {
+                put("computer" i, v * 0.4 + 97 * 1.2 + 3, h * 0.41 + i * (h * 0.01 + 15))
+                put("computerMiddle" i, v * 0.4 + 97 * 1.2 + h * 0.01, h * 0.41 + i * (h * 0.01 + 15))
+            }
+            put("raceName", v * 0.545 + 3, h * 0.57)
+            put("eventBox", v * 0.4 + 3, h * 0.655)
+            put("eventBoxMiddle", v * 0.4 + h * 0.01, h * 0.655)
+            put("add", v * 0.5, h * 0.915)
+            put("finishBox", v * 0.45 + 4, h * 0.885)
+            put("finishMiddle", v * 0.45 + h * 0.01, h * 0.885)
+            put("save", v * 0.8 - v * 0.032 + 8, h * 0.915)
+            put("savedOk", v * 0.422 + 180, h * 0.935)
+            put("firstDie", throwX + cardH * 0.5, hud + cardH * 0.62)
+            put("firstRace", v * 0.2 + 12, h * 0.2 + 12)
+            put("listOkEdge", v * 0.5 + buttonW * 0.6 + 3, h * 0.8 + 4)
+        }')
 }
 
 # The program in a folder of its own with pictures and, as the second argument, a settings file's
@@ -99,7 +116,7 @@ startAgain()
     trap endGame EXIT
     (cd run && exec "$1") &
     gamePid=$!
-    until_ 30 "the main menu" pixelIs startEdge B2B2B2
+    until_ 30 "the main menu" menuOpen
 }
 
 # From the team setup to the choice of a course.
@@ -108,7 +125,46 @@ chooseOneStage()
     click singleStage
     until_ 5 "the choice of one stage" pixelIs singleStage 000000
     click setupOk
-    until_ 5 "the courses" pixelIs cornerEdge B2B2B2
+    until_ 5 "the courses" coursesOpen
+}
+
+# From the choice of a course to a race on one of so many sections, which is saved before.
+designCourse()
+{
+    xdotool key c
+    until_ 5 "the designer" pixelIsNot courseFrame 000033
+    for ((i = 1; i < $1; i++)); do
+        untilChanged "a section" click add
+    done
+    click finishBox
+    until_ 5 "the mark of the finish" pixelIs finishMiddle 000000
+    untilChanged "the last section" click add
+    click save
+    until_ 5 "the saved course" test -s run/courses
+    click add
+    until_ 10 "the race" throwOpen
+}
+
+throwForOrder()
+{
+    while throwOpen; do
+        untilChanged "a throw" xdotool key t n
+    done
+}
+
+# Up and down the grid, so that free squares are met, until all stand.
+placeRiders()
+{
+    local across="Left Left Left Up Right Right Right Up"
+    local direction
+    for _ in {1..6}; do
+        for direction in $across $across $across Down Down Down Down Down; do
+            xdotool key --delay 15 Return "$direction"
+            ! throwOpen || return 0
+            ! dialogOpen || return 0
+        done
+    done
+    fail "the riders aren't placed"
 }
 
 # The colour of the middle of a control as RRGGBB.
@@ -120,6 +176,11 @@ pixel()
 }
 
 pixelIs() { [ "$(pixel "$1")" = "$2" ]; }
+pixelIsNot() { ! pixelIs "$@"; }
+teamIs() { pixelIs "tab$1" "${tabColours[$1]}"; }
+menuOpen() { pixelIs startEdge B2B2B2; }
+setupOpen() { pixelIs setupOkEdge B2B2B2 && pixelIsNot dialogTitle 000080; }
+coursesOpen() { pixelIs cornerEdge B2B2B2; }
 
 # Whether the label on the throw button is black, not grey.
 throwOpen()
@@ -144,6 +205,28 @@ until_()
     done
 }
 
+# What a part of the screen looks like, as for import -crop; the whole without one.
+look() { import -silent -window root ${1:+-crop "$1"} -depth 8 rgb:- | md5sum; }
+
+looksOther() { [ "$(look)" != "$1" ]; }
+
+# Does something and waits until it is seen: untilChanged WHAT COMMAND...
+untilChanged()
+{
+    local before
+    before=$(look)
+    "${@:2}"
+    until_ 5 "$1" looksOther "$before"
+}
+
+quitRace()
+{
+    xdotool key q
+    until_ 5 "the question" dialogOpen
+    xdotool key y
+    until_ 5 "the main menu" menuOpen
+}
+
 point()
 {
     # shellcheck disable=SC2086
@@ -164,9 +247,19 @@ processorTime()
     awk '{print $14 + $15}' "/proc/$gamePid/stat"
 }
 
-# The program must have ended by itself with success.
+# Within seconds, the program uses next to no time while it waits: expectIdle WHAT
+expectIdle()
+{
+    local before
+    before=$(processorTime)
+    sleep 3
+    [ $(($(processorTime) - before)) -le 1 ] || fail "$1 takes processor time"
+}
+
+# From the main menu the program ends by itself with success, by key or by a click on a control.
 expectEnd()
 {
+    [ $# -eq 0 ] && xdotool key e || click "$1"
     local end=$((SECONDS + 10))
     while kill -0 "$gamePid" 2> /dev/null; do
         [ $SECONDS -lt $end ] || fail "the program goes on"

@@ -5,24 +5,12 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
-#include <cmath>
-#include <cstddef>
-#include <cstring>
 #include <limits>
 #include <string>
+#include <vector>
 
 namespace
 {
-
-constexpr std::size_t METRIC_COUNT = (sizeof(Layout) - offsetof(Layout, hudY)) / sizeof(float);
-
-std::array<float, METRIC_COUNT> metricsOf(const Layout& l)
-{
-    std::array<float, METRIC_COUNT> metrics{};
-    std::memcpy(metrics.data(), &l.hudY, sizeof metrics);
-    return metrics;
-}
 
 class LayoutTest : public testing::Test
 {
@@ -88,19 +76,6 @@ TEST_F(LayoutTest, TheDrawingAreaTakesTheRatioOfTheWindowOrTheNearestOne)
     EXPECT_EQ(layout.viewW, 1728);
 }
 
-TEST_F(LayoutTest, AWindowWithoutAreaBreaksNothing)
-{
-    const int sizes[][2] = {{0, 0}, {0, 600}, {800, 0}, {1, 1}, {1, 3000}, {3000, 1}};
-    for (const double w : {-1.0, 16.0})
-        for (const auto& [width, height] : sizes) {
-            store(w, w < 0.0 ? w : 10.0);
-            computeLayout(width, height);
-            for (const float metric : metricsOf(layout))
-                EXPECT_TRUE(std::isfinite(metric)) << width << " by " << height;
-            EXPECT_GE(layout.linesPerPage, 1.0f);
-        }
-}
-
 TEST_F(LayoutTest, AStoredRatioIsKeptAndAnUnknownOneCountsAsNone)
 {
     store(5.0, 4.0);
@@ -134,36 +109,4 @@ TEST_F(LayoutTest, AGuessFollowsTheWindowAndAChoiceStaysEvenIfItIsTheFirstGuessA
     settings.ratioH = 3.0;
     computeLayout(1920, 1080);
     EXPECT_EQ(layout.viewW, 1620);
-}
-
-// To drop a box where it stands changes nothing, and to drop it elsewhere moves its own parts
-// alone.
-TEST_F(LayoutTest, ADraggedBoxTakesItsButtonsAlongUntilTheNextLayout)
-{
-    using Metric = float Layout::*;
-    const auto expectMoved = [](void (*place)(float, float), const std::vector<Metric>& xs,
-                                const std::vector<Metric>& ys) {
-        store(-1.0, -1.0);
-        computeLayout(1280, 1024);
-        const Layout before = layout;
-        place(before.*xs[0], before.*ys[0]);
-        EXPECT_EQ(metricsOf(layout), metricsOf(before));
-        Layout expected = before;
-        for (const Metric x : xs)
-            expected.*x += 32.0f;
-        for (const Metric y : ys)
-            expected.*y -= 64.0f;
-        place(expected.*xs[0], expected.*ys[0]);
-        for (std::size_t i = 0; i < METRIC_COUNT; ++i)
-            EXPECT_NEAR(metricsOf(layout)[i], metricsOf(expected)[i], 0.001f) << i;
-        computeLayout(1280, 1024);
-        EXPECT_EQ(metricsOf(layout), metricsOf(before));
-    };
-    using L = Layout;
-    expectMoved(placeDialog, {&L::dialogX, &L::dialogOkX, &L::dialogLeftX, &L::dialogRightX},
-                {&L::dialogY, &L::dialogButtonY});
-    expectMoved(placeScorecard,
-                {&L::scorecardX, &L::scorecardOkX, &L::exportButtonX, &L::prevStageX,
-                 &L::nextStageX, &L::stageTitleX, &L::generalViewButtonX, &L::stageViewButtonX},
-                {&L::scorecardY, &L::scorecardBottomButtonY, &L::stageArrowY, &L::stageTitleY});
 }

@@ -5,18 +5,13 @@ set -eu
 # shellcheck source=tests/support/window.sh
 . "$(dirname "$0")/../support/window.sh"
 
-# English, smooth, no delay, 999 board units a tick.
-fast='\1\1\0\0\0\0\0\300\171\104\0\0\0\0\0\0\0\0\0\0\360\277\0\0\0\0\0\0\360\277'
-
 startGame "$1" "$2" "$fast"
 shot menu
 
-before=$(processorTime)
-sleep 3
-[ $(($(processorTime) - before)) -le 1 ] || fail "the idle main menu takes processor time"
+expectIdle "the main menu"
 
 click start
-until_ 5 "the team setup" pixelIs setupOkEdge B2B2B2
+until_ 5 "the team setup" setupOpen
 shot setup
 chooseOneStage
 point firstCourse
@@ -26,10 +21,9 @@ click firstCourse
 until_ 10 "the race" throwOpen
 shot order
 
-click toggle
-sleep 0.5
+untilChanged "the perspective view" click toggle
 shot perspective
-click toggle
+untilChanged "the flat view" click toggle
 
 shots=0
 while ! sheetOpen; do
@@ -47,7 +41,6 @@ while ! sheetOpen; do
 done
 shot scorecard
 click sheetOk
-until_ 5 "the main menu" pixelIs startEdge B2B2B2
-click corner
-expectEnd
+until_ 5 "the main menu" menuOpen
+expectEnd corner
 echo "A race took $SECONDS seconds."

@@ -6,31 +6,8 @@ set -eu
 # shellcheck source=tests/support/window.sh
 . "$(dirname "$0")/../support/window.sh"
 
-# English, smooth, no delay, 999 board units a tick.
-fast='\1\1\0\0\0\0\0\300\171\104\0\0\0\0\0\0\0\0\0\0\360\277\0\0\0\0\0\0\360\277'
 head=57
 stage=116
-
-# The controls of this story only, on a screen of 5:4.
-findMoreControls()
-{
-    placeControls '
-            box = v * 0.4 + 97 * 1.2
-            for (i = 0; i < 2; i++) {
-                put("computer" i, box + 3, h * 0.41 + i * (h * 0.01 + 15))
-                put("computerMiddle" i, box + h * 0.01, h * 0.41 + i * (h * 0.01 + 15))
-            }
-            put("raceName", v * 0.545 + 3, h * 0.57)
-            put("add", v * 0.5, h * 0.915)
-            put("addEdge", v * 0.5 - v * 0.028, h * 0.915)
-            put("finishBox", v * 0.45 + 4, h * 0.885)
-            put("finishMiddle", v * 0.45 + h * 0.01, h * 0.885)
-            put("save", v * 0.8 - v * 0.032 + 8, h * 0.915)
-            put("savedOk", v * 0.422 + 180, h * 0.935)
-            put("firstRace", v * 0.2 + 12, h * 0.2 + 12)
-            put("listOkEdge", v * 0.5 + v * 0.064 * 0.6 + 3, h * 0.8 + 4)
-    '
-}
 
 # Whether the first name on the list is yellow.
 raceChosen()
@@ -51,7 +28,7 @@ chooseRace()
 setUpRace()
 {
     click start
-    until_ 5 "the team setup" pixelIs setupOkEdge B2B2B2
+    until_ 5 "the team setup" setupOpen
     for i in 0 1; do
         click "computer$i"
         until_ 5 "a person's team" pixelIs "computerMiddle$i" FFFFFF
@@ -59,32 +36,12 @@ setUpRace()
     click setupOk
     until_ 5 "the want of a race name" dialogOpen
     xdotool key o
-    until_ 5 "the team setup again" pixelIsNot dialogTitle 000080
+    until_ 5 "the team setup again" setupOpen
     click raceName
     xdotool type --delay 60 "Story 1"
     shot setup
     click setupOk
-    until_ 5 "the courses" pixelIs cornerEdge B2B2B2
-}
-
-pixelIsNot() { ! pixelIs "$@"; }
-
-designCourse()
-{
-    xdotool key c
-    sleep 0.3
-    click add
-    sleep 0.2
-    click add
-    sleep 0.2
-    click finishBox
-    until_ 5 "the mark of the finish" pixelIs finishMiddle 000000
-    click add
-    sleep 0.2
-    click save
-    until_ 5 "the saved course" test -s run/courses
-    click add
-    until_ 10 "the race" throwOpen
+    until_ 5 "the courses" coursesOpen
 }
 
 # Keeps a picture of each dialog that looks like none before.
@@ -101,31 +58,12 @@ noteDialog()
     mv dialog.png "dialog${#dialogs[@]}.png"
 }
 
-# The throws for the order, then the eight riders: up and down the grid, so that free squares are
-# met.
-placeRiders()
-{
-    local across="Left Left Left Up Right Right Right Up"
-    local direction
-    while throwOpen; do
-        xdotool key t n
-        sleep 0.1
-    done
-    for _ in {1..6}; do
-        for direction in $across $across $across Down Down Down Down Down; do
-            xdotool key --delay 15 Return "$direction"
-            ! throwOpen || return 0
-            ! dialogOpen || return 0
-        done
-    done
-    fail "the riders aren't placed"
-}
-
 # Whatever the stage asks, until it is over. A key that doesn't fit the state does nothing, so all
 # those that may are pressed.
 playStage()
 {
     local end=$((SECONDS + 400))
+    throwForOrder
     placeRiders
     while true; do
         [ $SECONDS -lt $end ] || fail "the stage does not end"
@@ -166,13 +104,7 @@ finishStage()
     cp "run/Story 1.csv" "standings$1.csv"
     caught=$((caught + $(emptyPlaces "$1")))
     xdotool key q
-    until_ 5 "the main menu" pixelIs startEdge B2B2B2
-}
-
-endProgram()
-{
-    xdotool key e
-    expectEnd
+    until_ 5 "the main menu" menuOpen
 }
 
 # The same chance each time, so that a failure can be looked at again; and a throw of seven more often
@@ -198,12 +130,11 @@ caught=0
 rm -f dialog*.png
 
 startGame "$1" "$2" "$fast"
-findMoreControls
 setUpRace
-designCourse
+designCourse 3
 playStage
 finishStage 1
-endProgram
+expectEnd
 
 rm "run/Story 1.csv"
 startAgain "$1"
@@ -216,29 +147,27 @@ xdotool key o
 until_ 5 "the list again" pixelIsNot sheetTitle 000080
 xdotool key o
 until_ 5 "the courses" pixelIs courseFrame 000033
-xdotool key u
-sleep 0.5
+untilChanged "the saved course" xdotool key u
 click savedOk
 until_ 10 "the second stage" throwOpen
 playStage
 finishStage 2
-endProgram
+expectEnd
 
 startAgain "$1"
 rm "run/Story 1.csv"
 chooseRace
 xdotool key s
 until_ 5 "the standings" sheetOpen
-xdotool key g
-sleep 0.3
+untilChanged "the general classification" xdotool key g
 shot general
 xdotool key x
 until_ 5 "the standings of the race" cmp -s "run/Story 1.csv" standings2.csv
 xdotool key o
 until_ 5 "the list again" pixelIsNot sheetTitle 000080
 xdotool key b
-until_ 5 "the main menu" pixelIs startEdge B2B2B2
-endProgram
+until_ 5 "the main menu" menuOpen
+expectEnd
 
 # How many there are, and whether the control catches anybody, depends on the pace of the machine: the
 # keys meet other riders' turns.

@@ -94,11 +94,18 @@ void Player::press(char key)
     onKeyDown(static_cast<unsigned char>(key), 0, 0);
 }
 
-void Player::type(std::string_view keys)
+void Player::release(char key)
 {
     holdModifiers(held);
-    for (const char key : keys)
-        onKeyUp(static_cast<unsigned char>(key), 0, 0);
+    onKeyUp(static_cast<unsigned char>(key), 0, 0);
+}
+
+void Player::type(std::string_view keys)
+{
+    for (const char key : keys) {
+        press(key);
+        release(key);
+    }
 }
 
 void Player::special(std::initializer_list<int> glutKeys)

@@ -24,7 +24,8 @@ struct Player {
     void dragTo(float x, float y);
     void hover(const Rect& at);
     void type(std::string_view keys);
-    void press(char key); // down only
+    void press(char key);
+    void release(char key);
     void key(char character) { type({&character, 1}); }
     void special(std::initializer_list<int> glutKeys);
     void special(int glutKey) { special({glutKey}); }

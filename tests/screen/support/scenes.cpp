@@ -34,21 +34,18 @@ namespace
 
 constexpr const char* COURSE = "01S23S4S5F12";
 
-void computersThrow()
+template <bool OF_A_PERSON> void throwForOrder()
 {
     startSeededRace(COURSE, 11);
-}
-
-void personsThrow()
-{
-    startSeededRace(COURSE, 11);
+    if (!OF_A_PERSON)
+        return;
     makeHuman(0);
     startRace();
 }
 
 void computersMove()
 {
-    startSeededRace(COURSE, 11);
+    throwForOrder<false>();
     while (gameState == STATE_ORDER_RESULT)
         advanceComputerRace();
     for (int tick = 0; tick < 3; ++tick)
@@ -75,12 +72,6 @@ void personsLead()
     endHumanMove();
 }
 
-void openSecondPage()
-{
-    manualPage = 1;
-    gameState = STATE_MANUAL;
-}
-
 void openSettingsField()
 {
     openSettings();
@@ -100,19 +91,6 @@ void setUpTeams()
     gameState = STATE_TEAM_SETUP;
 }
 
-void setUpOneStage()
-{
-    setUpTeams();
-    raceSetup.multiStage = false;
-}
-
-void missEverything()
-{
-    setUpTeams();
-    raceSetup.teamName = {};
-    confirmTeamSetup();
-}
-
 void chooseCourse()
 {
     courseText = "64S5F";
@@ -122,17 +100,11 @@ void chooseCourse()
     gameState = STATE_COURSE_SELECT;
 }
 
-void design()
+template <bool FINISHED> void design()
 {
-    courseText = "01S23";
-    courseScreens.designChoice = 1;
-    gameState = STATE_COURSE_DESIGN;
-}
-
-void finishDesign()
-{
-    courseText = "01S23S4S5F";
-    courseScreens.saveFailed = true;
+    courseText = FINISHED ? "01S23S4S5F" : "01S23";
+    courseScreens.designChoice = !FINISHED;
+    courseScreens.saveFailed = FINISHED;
     gameState = STATE_COURSE_DESIGN;
 }
 
@@ -155,30 +127,6 @@ void place()
     gameState = STATE_PLACE_HUMAN;
 }
 
-void waitForThrow()
-{
-    beginPersonsTurn(0);
-}
-
-void layCard()
-{
-    beginPersonsTurn(0);
-    pickCard(12);
-    toggleBreakaway();
-}
-
-void step()
-{
-    beginPersonsMove(3, 6);
-    stepRider('M');
-}
-
-void findNoWay()
-{
-    beginPersonsTurn(0);
-    gameState = STATE_NO_MOVE;
-}
-
 void finish()
 {
     for (int slot = 0; slot < RESULT_SLOT_COUNT; ++slot)
@@ -189,7 +137,7 @@ void finish()
 
 void draw14()
 {
-    waitForThrow();
+    beginPersonsTurn(0);
     race.dice = {3, 4};
     race.movesTotal = race.moveBudget = 7;
     race.pathSquares[0] = {10.0f, 0.0f};
@@ -203,12 +151,6 @@ template <GameState STATE> void answerEvent()
 {
     draw14();
     gameState = STATE;
-}
-
-void putUpCard()
-{
-    answerEvent<STATE_EVENT_HANDIN>();
-    pickCard(12);
 }
 
 void missTurns()
@@ -227,22 +169,9 @@ void missTurnsWithoutCard()
     race.cardUsed[0] = filled<int, CARD_SLOT_COUNT>(CARD_SPENT);
 }
 
-void chooseWhen()
-{
-    answerEvent<STATE_EVENT_CARD_KIND>();
-    receiveWonCard(WHITE_CARD);
-}
-
-void thinkOfDoping()
-{
-    waitForThrow();
-    returnState = STATE_TURN;
-    gameState = STATE_CONFIRM_DOPING;
-}
-
 void dope()
 {
-    waitForThrow();
+    beginPersonsTurn(0);
     race.dopingNumber[0] = 4;
     gameState = STATE_DOPING_NUMBER;
 }
@@ -303,12 +232,6 @@ void openSecondStage()
     gameState = STATE_SCORECARD;
 }
 
-void openGeneral()
-{
-    openSecondStage();
-    view.scorecardGeneral = true;
-}
-
 // On the second of seven columns.
 void listRaces()
 {
@@ -358,43 +281,43 @@ struct SceneRecord {
 constexpr Table<SceneRecord, SCENE_COUNT> scenes = {{
     {"menu",            nothing,        [] { gameState = STATE_MAIN_MENU; }},
     {"languages",       nothing,        [] { gameState = STATE_LANGUAGE; }},
-    {"manual",          nothing,        openSecondPage},
+    {"manual",          nothing,        [] { manualPage = 1; gameState = STATE_MANUAL; }},
     {"settings",        nothing,        openSettingsField},
     {"teams",           nothing,        setUpTeams},
-    {"teams_named",     nothing,        setUpOneStage},
-    {"setup_message",   nothing,        missEverything},
+    {"teams_named",     nothing,        [] { setUpTeams(); raceSetup.multiStage = false; }},
+    {"setup_message",   nothing,        [] { setUpTeams(); raceSetup.teamName = {}; confirmTeamSetup(); }},
     {"courses",         nothing,        chooseCourse},
-    {"design",          nothing,        design},
-    {"design_finished", nothing,        finishDesign},
+    {"design",          nothing,        design<false>},
+    {"design_finished", nothing,        design<true>},
     {"saved",           nothing,        browse},
-    {"order_throw",     personsThrow,   nothing},
-    {"order_result",    computersThrow, nothing},
-    {"place",           personsThrow,   place},
-    {"turn",            personsRide,    waitForThrow},
-    {"turn_with_card",  personsRide,    layCard},
-    {"move",            personsRide,    step},
+    {"order_throw",     throwForOrder<true>,   nothing},
+    {"order_result",    throwForOrder<false>, nothing},
+    {"place",           throwForOrder<true>,   place},
+    {"turn",            personsRide,    [] { beginPersonsTurn(0); }},
+    {"turn_with_card",  personsRide,    [] { beginPersonsTurn(0); pickCard(12); toggleBreakaway(); }},
+    {"move",            personsRide,    [] { beginPersonsMove(3, 6); stepRider('M'); }},
     {"animate",         computersMove,  [] { view.shownTeam = 0; }},
     {"follow",          personsLead,    nothing},
-    {"no_move",         personsRide,    findNoWay},
-    {"quit",            computersThrow, openQuitConfirm},
-    {"final",           computersThrow, finish},
+    {"no_move",         personsRide,    [] { beginPersonsTurn(0); gameState = STATE_NO_MOVE; }},
+    {"quit",            throwForOrder<false>, openQuitConfirm},
+    {"final",           throwForOrder<false>, finish},
     {"event_card",      personsRide,    draw14},
     {"card_kind",       personsRide,    answerEvent<STATE_EVENT_CARD_KIND>},
-    {"card_when",       personsRide,    chooseWhen},
+    {"card_when",       personsRide,    [] { answerEvent<STATE_EVENT_CARD_KIND>(); receiveWonCard(WHITE_CARD); }},
     {"event_die",       personsRide,    answerEvent<STATE_EVENT_DIE>},
-    {"event_handin",    personsRide,    putUpCard},
+    {"event_handin",    personsRide,    [] { answerEvent<STATE_EVENT_HANDIN>(); pickCard(12); }},
     {"event_no_card",   personsRide,    answerEvent<STATE_EVENT_NO_CARD>},
     {"handin",          personsRide,    missTurns},
     {"skip_no_card",    personsRide,    missTurnsWithoutCard},
-    {"doping",          personsRide,    thinkOfDoping},
+    {"doping",          personsRide,    [] { beginPersonsTurn(0); openOverlay(STATE_CONFIRM_DOPING); }},
     {"doping_number",   personsRide,    dope},
     {"doped",           personsRide,    takeDope},
     {"doping_draw",     personsRide,    control},
     {"countercheck",    personsRide,    countercheck},
-    {"save_failed",     computersThrow, failToSave},
+    {"save_failed",     throwForOrder<false>, failToSave},
     {"scorecard",       personsRide,    openSecondStage},
-    {"general",         personsRide,    openGeneral},
-    {"positions",       personsRide,    [] { waitForThrow(); openPositions(); }},
+    {"general",         personsRide,    [] { openSecondStage(); view.scorecardGeneral = true; }},
+    {"positions",       personsRide,    [] { beginPersonsTurn(0); openPositions(); }},
     {"races",           nothing,        listRaces},
     {"race_chosen",     nothing,        chooseFromList},
     {"standings",       nothing,        openStandings},
