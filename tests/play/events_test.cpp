@@ -81,9 +81,8 @@ TEST(EventCard, IsDrawnForASevenFromTheSecondRoundOn)
         {.dice = {1, 1}, .square = DESCENT}, // seven moves, but no throw of seven
     };
     for (const auto& known : cases) {
-        setUpPersonsRace(ONE_LAP, {{0, known.square.row, known.square.lane}});
+        putPersonOnTurn(0, known.square);
         raceSetup.eventCardsOn = known.cardsOn;
-        beginPersonsTurn(0);
         if (known.blueLaid)
             pickCard(0);
         race.roundNumber = known.round;

@@ -67,10 +67,7 @@ TEST(Following, TheWholeLineComesAlongInTheLeadersLane)
     EXPECT_EQ(occupant(105, 6), 12);
     EXPECT_EQ(occupant(103, 5), -1);
     EXPECT_EQ(race.roundNumber, 3); // all four have had their turn
-}
 
-TEST(Following, BehindTheEndTooRowsWithoutASquareAreSkipped)
-{
     setUpPersonsRace(ONE_LAP, {{0, 10, 0}, {4, 8, 0}});
     lead(0, "M"); // to 13, 0: rows 12, 11 and 9 have no squares in this lane
     expectYes(4);
@@ -144,10 +141,8 @@ TEST(Following, ARiderALapAheadFollowsOnHisOwnLap)
     expectYes(9); // the line goes on a lap behind
     EXPECT_EQ(squareOfRider(9), (Square{105, 5}));
     EXPECT_EQ(occupant(106, 5), -1);
-}
 
-TEST(Following, NobodyStandsBehindTheFirstRowButOnALaterLap)
-{
+    // Behind the first row there is but the end of a lap.
     setUpPersonsRace(TWO_LAPS, {{0, 0, 2}, {4, 108, 5}, {9, 0, 4}});
     lead(0, "MM");
     expectYes(4);
@@ -172,27 +167,22 @@ TEST(ComputerFollower, ComesToASquareAsGoodAsHisOwnTurnPromises)
 {
     EXPECT_TRUE(computerFollows(104, 5, "MMM", 106, WORTH));
     EXPECT_EQ(squareOfRider(4), (Square{106, 5}));
+    EXPECT_FALSE(computerFollows(104, 5, "MMM", 106, WORTH - 1));
+    // With a seven of his own he would do better, but not beyond it. A descent adds 4.
+    EXPECT_FALSE(computerFollows(104, 5, "MMM", 103 + 7, WORTH + 10));
+    EXPECT_TRUE(computerFollows(104, 5, "MMM", 103 + 8, WORTH + 10));
+    EXPECT_FALSE(computerFollows(48, 3, "MM", 47 + 11, WORTH + 10));
+    // Across the finish he comes always; the line itself lies before it.
+    EXPECT_FALSE(computerFollows(112, 5, "MMM", 114, 1));
+    EXPECT_TRUE(computerFollows(113, 5, "MMM", 115, 1));
+    EXPECT_EQ(race.resultSlots[FINISH_SLOT + 1], 4);
+    EXPECT_EQ(race.riders[4].finished, 1);
 
     setUpPersonsRace(ONE_LAP, {{0, 104, 5}, {4, 103, 5}, {9, 102, 5}, {12, 103, 7}});
     letComputerJudge();
     course.reach12[106][5] = WORTH - 1;
     lead(0, "MMM");
     EXPECT_EQ(occupant(103, 5), 4);
-    EXPECT_EQ(occupant(102, 5), 9); // the chain has ended
+    EXPECT_EQ(occupant(102, 5), 9); // with his no the chain has ended
     EXPECT_EQ(race.currentRider, 12);
-}
-
-TEST(ComputerFollower, TakesHisOwnTurnForASevenOnHisSquare)
-{
-    EXPECT_FALSE(computerFollows(104, 5, "MMM", 103 + 7, WORTH + 10));
-    EXPECT_TRUE(computerFollows(104, 5, "MMM", 103 + 8, WORTH + 10)); // out of a seven's reach
-    EXPECT_FALSE(computerFollows(48, 3, "MM", 47 + 11, WORTH + 10));  // a descent adds 4
-}
-
-TEST(ComputerFollower, AlwaysComesAlongAcrossTheFinish)
-{
-    EXPECT_TRUE(computerFollows(113, 5, "MMM", 115, 1));
-    EXPECT_EQ(race.resultSlots[FINISH_SLOT + 1], 4);
-    EXPECT_EQ(race.riders[4].finished, 1);
-    EXPECT_FALSE(computerFollows(112, 5, "MMM", 114, 1)); // the line itself lies before it
 }

@@ -70,6 +70,12 @@ void beginPersonsTurn(int rider)
     gameState = STATE_TURN;
 }
 
+void putPersonOnTurn(int rider, Square square)
+{
+    setUpPersonsRace(ONE_LAP, {{rider, square.row, square.lane}});
+    beginPersonsTurn(rider);
+}
+
 bool advanceComputerRace()
 {
     switch (gameState) {

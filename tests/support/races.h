@@ -46,6 +46,9 @@ void makeHuman(int team);
 // Begins the turn of a rider who stands on the course, as nextTurn does for a person.
 void beginPersonsTurn(int rider);
 
+// A race on ONE_LAP with a person's rider on this square, before his throw, and nobody else.
+void putPersonOnTurn(int rider, Square square);
+
 // Answers what a computer race waits for, once. False when the stage is over.
 bool advanceComputerRace();
 

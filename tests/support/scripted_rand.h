@@ -29,5 +29,5 @@ constexpr int orderThrow(int first, int second)
     return raceThrow(second, first);
 }
 
-// The throw of the person on turn with this number behind it, his only call of rand().
+// The throw of the person on turn, with this number behind it.
 void throwNumber(int number);
