@@ -112,6 +112,7 @@ TEST_F(SettingsScreenTest, CancelGivesEverythingBack)
     player.click(CONTROL_SETTINGS_CANCEL);
     EXPECT_EQ(gameState, STATE_MAIN_MENU);
     EXPECT_EQ(layout.viewW, 1000);
+    EXPECT_GT(placeOf(CONTROL_EXIT).x, 880.0f) << "laid out anew";
     EXPECT_EQ(settings.smoothMovement, 1);
     EXPECT_EQ(settings.stepDistance, 7.5f);
     EXPECT_EQ(settings.ratioW, 5.0);

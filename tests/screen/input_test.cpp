@@ -108,7 +108,16 @@ TEST(Mouse, ADesignIsSavedOnceByADoubleClickAndAFailureIsForgottenByTheNextClick
     Player player;
     player.doubleClick(CONTROL_SAVE_COURSE);
     EXPECT_EQ(std::filesystem::file_size("courses"), 48u);
+    gameState = STATE_COURSE_SELECT;
+    player.click({CONTROL_SAVED_COURSE, CONTROL_NEXT_COURSE, CONTROL_PREVIOUS_COURSE});
+    EXPECT_EQ(courseScreens.savedCourseIndex, 0) << "the only one";
+    EXPECT_EQ(courseText, "012F");
     std::filesystem::remove("courses");
+    gameState = STATE_COURSE_SELECT;
+    player.click({CONTROL_SAVED_COURSE, CONTROL_SAVED_OK});
+    EXPECT_EQ(gameState, STATE_COURSE_SAVED) << "there is none";
+    courseText = "012F";
+    gameState = STATE_COURSE_DESIGN;
     std::filesystem::create_directory("courses");
     player.click(CONTROL_SAVE_COURSE);
     EXPECT_TRUE(courseScreens.saveFailed);

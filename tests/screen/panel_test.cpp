@@ -78,6 +78,7 @@ TEST_F(RaceWords, TellsATurnFromItsBeginningToTheNextRiders)
     EXPECT_EQ(panelWords(), "Belgium|Bonus moves: 4|Moves: 5|Moves left: 3|Round:2|Lap:1");
     endHumanMove();
     player.key('n'); // nobody follows
+    race.riderLapCount[0] = 7;
     EXPECT_EQ(panelWords(), "Netherlands|Moves: |Moves left: |Round:2|Lap:1");
     race.currentRider = -1;
     EXPECT_EQ(panelWords(), "Moves: |Moves left: |Round:2|Lap:");
@@ -157,6 +158,7 @@ TEST_F(RaceWords, CardsToHandInAreBrightWhileThereIsAPlaceForThem)
         setEnglishScene(scene);
         race.handInCards = {laid == 1 ? 12 : -1, -1};
         EXPECT_EQ(cardLooks(0), "bright") << nameOf(scene);
+        EXPECT_EQ(isLive(CONTROL_HAND_IN), laid == 1) << nameOf(scene);
         EXPECT_EQ(cardLooks(4), "dim") << nameOf(scene) << ", a team-mate's";
         race.handInCards = {12, laid == 1 ? 13 : -1};
         EXPECT_EQ(cardLooks(0), "dim") << nameOf(scene);

@@ -87,6 +87,7 @@ TEST(Scorecard, AStageInProgressKeepsSilentOnWhoIsStillToCome)
     EXPECT_EQ(teamTable(), "50|40|35||||||32|30|28|26|||||||116|");
     view.scorecardStage = 0;
     EXPECT_TRUE(hasWord("Result stage 1"));
+    EXPECT_EQ(wordsOnSheet(270.0f, 370.0f, 410.0f, 480.0f), "10|60|0|40");
     EXPECT_EQ(teamTable(), "60|40|35|0|0|0|0|0|0|0|0|0|0|0|0|0|135|0|0|0");
 }
 

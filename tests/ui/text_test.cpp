@@ -47,23 +47,19 @@ TEST(Glyphs, StandOnTheLineAndAHighCodeWithoutOneFallsBackToASafeLetter)
     }
 }
 
-struct Placed {
-    std::string text;
-    int x, line;
-    bool heading;
-    friend bool operator==(const Placed&, const Placed&) = default;
-};
-
-void PrintTo(const Placed& word, std::ostream* out)
+// Each word with its place in the line and, where it is another one, its line; headings with a
+// star.
+std::string layOut(std::string_view text, int wrapWidth, float lines = 99, std::size_t start = 0)
 {
-    *out << '"' << word.text << "\" at " << word.x << ", line " << word.line;
-}
-
-std::vector<Placed> layOut(std::string_view text, int wrapWidth, float linesPerPage = 99)
-{
-    std::vector<Placed> placed;
-    for (const ManualWord& word : layOutManualPage(text, 0, wrapWidth, linesPerPage).words)
-        placed.push_back({std::string(word.text), word.x, word.line, word.heading});
+    std::string placed;
+    int line = 0;
+    for (const ManualWord& word : layOutManualPage(text, start, wrapWidth, lines).words) {
+        if (word.line != line)
+            placed += "/" + std::to_string(word.line) + "/";
+        line = word.line;
+        placed += std::string(word.heading ? "*" : "") + std::string(word.text) + "@" +
+                  std::to_string(word.x);
+    }
     return placed;
 }
 
@@ -73,40 +69,16 @@ std::size_t endOfPage(std::string_view text, int wrapWidth, float linesPerPage)
 }
 
 // In FONT_TITLE "ab" takes 20 pixels and a blank 5.
-TEST(Wrap, AWordThatFitsExactlyStays)
+TEST(Wrap, BreaksAtBlanksAndWordsThatAreWiderThanALine)
 {
-    EXPECT_EQ(layOut("ab ab", 45),
-              (std::vector<Placed>{{"ab", 0, 0, false}, {" ab", 20, 0, false}}));
-    EXPECT_EQ(layOut("ab ab", 44), (std::vector<Placed>{{"ab", 0, 0, false}, {"ab", 0, 1, false}}));
-}
-
-TEST(Wrap, BlanksCountInsideALineOnly)
-{
-    EXPECT_EQ(
-        layOut("  ab  ab<l>  ab", 99),
-        (std::vector<Placed>{
-            {"ab", 0, 0, false}, {" ", 20, 0, false}, {" ab", 25, 0, false}, {"ab", 0, 1, false}}));
-}
-
-TEST(Wrap, AWordWiderThanALineIsBroken)
-{
-    EXPECT_EQ(
-        layOut("ab ababab", 44),
-        (std::vector<Placed>{{"ab", 0, 0, false}, {"abab", 0, 1, false}, {"ab", 0, 2, false}}));
-    const std::string longWord(50, 'a');
-    EXPECT_EQ(layOut(longWord, 450).front().text, longWord);
-    EXPECT_EQ(layOut("ab", -1), (std::vector<Placed>{{"a", 0, 0, false}, {"b", 0, 1, false}}));
-}
-
-TEST(Wrap, HeadingsAreYellowAndStandOffFromTheTextBefore)
-{
+    EXPECT_EQ(layOut("ab ab", 45), "ab@0 ab@20") << "it just fits";
+    EXPECT_EQ(layOut("ab ab", 44), "ab@0/1/ab@0");
+    EXPECT_EQ(layOut("  ab  ab<l>  ab", 99), "ab@0 @20 ab@25/1/ab@0");
+    EXPECT_EQ(layOut("ab ababab", 44), "ab@0/1/abab@0/2/ab@0");
+    EXPECT_EQ(layOut(std::string(50, 'a'), 450), std::string(50, 'a') + "@0");
+    EXPECT_EQ(layOut("ab", -1), "a@0/1/b@0");
     EXPECT_EQ(layOut("<1>a</1>b<2>c</2>d<ll><2>e</2>f", 99),
-              (std::vector<Placed>{{"a", 0, 0, true},
-                                   {"b", 0, 2, false},
-                                   {"c", 0, 4, true},
-                                   {"d", 0, 5, false},
-                                   {"e", 0, 8, true},
-                                   {"f", 0, 9, false}}));
+              "*a@0/2/b@0/4/*c@0/5/d@0/8/*e@0/9/f@0");
 }
 
 TEST(Pages, StartAtWhatTheyDrawFirst)
@@ -116,11 +88,8 @@ TEST(Pages, StartAtWhatTheyDrawFirst)
     EXPECT_EQ(endOfPage("a<2>b</2>c", 99, 2), 5u);    // at the end of a heading
     EXPECT_EQ(endOfPage("ab ab ab", 20, 1), 6u);      // at the word
     EXPECT_EQ(endOfPage("ab ab  ", 20, 1), 7u);       // no page of blanks alone
-
-    const ManualPageWords next = layOutManualPage("a<2>b</2>c", 5, 99, 2);
-    ASSERT_EQ(next.words.size(), 1u);
-    EXPECT_EQ(next.words[0].line, 1); // the heading's own line stands on the page before
-    EXPECT_FALSE(next.words[0].heading);
+    // The heading's own line stands on the page before.
+    EXPECT_EQ(layOut("a<2>b</2>c", 99, 2, 5), "/1/c@0");
 }
 
 // Whatever the size of the page, each letter stands on exactly one page and within it.
@@ -180,15 +149,9 @@ TEST_F(TextsTest, DefaultTeamNamesFollowTheLanguageAndTypedOnesStay)
     raceSetup.teamName[1] = "Les Rapides";
     raceSetup.teamName[2] = "Belgien"; // the default of another team counts as typed
     choose(LANGUAGE_FRENCH);
+    choose(-1); // none: everything stays
     EXPECT_EQ(raceSetup.teamName, (Names{"Belgique", "Les Rapides", "Belgien", "France"}));
-}
-
-TEST_F(TextsTest, NoLanguageLeavesEverythingAsItIs)
-{
-    choose(LANGUAGE_DUTCH);
-    choose(-1);
-    EXPECT_EQ(texts.throwDice, "Gooi");
-    EXPECT_EQ(raceSetup.teamName[0], "Belgie");
+    EXPECT_EQ(texts.exit, "Fin");
 }
 
 TEST_F(TextsTest, AreLatin1)
@@ -202,23 +165,16 @@ TEST_F(TextsTest, AreLatin1)
 
 TEST_F(TextsTest, HaveTheirMarksAndJoiningBlanksInEveryLanguage)
 {
-    constexpr std::string Texts::*joined[] = {&Texts::bonusMoves,
-                                              &Texts::moves,
-                                              &Texts::movesLeft,
-                                              &Texts::couldNotSave,
-                                              &Texts::stage,
-                                              &Texts::standings,
-                                              &Texts::result,
-                                              &Texts::standingsWritten,
-                                              &Texts::generalAfterStage};
     for (int language = 0; language < LANGUAGE_COUNT; ++language) {
         choose(language);
         EXPECT_EQ(withNumber(texts.followPrompt, 34).find("%"), std::string::npos);
         EXPECT_NE(withNumber(texts.followPrompt, 34).find("34"), std::string::npos);
         EXPECT_NE(withNumber(texts.enterPlayerName, 34).find("34"), std::string::npos);
         EXPECT_NE(withName(texts.raceNameExists, "100%s").find("100%s"), std::string::npos);
-        for (const auto key : joined)
-            EXPECT_TRUE((texts.*key).ends_with(' ')) << texts.*key;
+        for (const std::string& joined :
+             {texts.bonusMoves, texts.moves, texts.movesLeft, texts.couldNotSave, texts.stage,
+              texts.standings, texts.result, texts.standingsWritten, texts.generalAfterStage})
+            EXPECT_TRUE(joined.ends_with(' ')) << joined;
         EXPECT_TRUE(texts.couldNotOpen.starts_with(' '));
     }
 }
@@ -247,12 +203,10 @@ TEST_F(TextsTest, EveryLetterHasAGlyphInItsFont)
         for (const std::string& title : {texts.mainMenuTitle, texts.teamSetupTitle,
                                          texts.courseSelectionTitle, texts.settings})
             expectDrawable(title, FONT_TITLE);
-        for (int card = 0; card < EVENT_CARD_COUNT; ++card) {
-            for (const std::string& line : eventTitle(card))
-                expectDrawable(line, FONT_BODY);
-            for (const std::string& line : eventEffect(card))
-                expectDrawable(line, FONT_BODY);
-        }
+        for (int card = 0; card < EVENT_CARD_COUNT; ++card)
+            for (const auto& lines : {eventTitle(card), eventEffect(card)})
+                for (const std::string& line : lines)
+                    expectDrawable(line, FONT_BODY);
         expectDrawable(languageNames[language], FONT_SERIF);
         expectDrawable(manualText, FONT_TITLE);
         // A quote measures 0, so the word behind it would be drawn over it.

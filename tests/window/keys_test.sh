@@ -62,4 +62,5 @@ uncovered() { ! covered && teamIs 3; }
 until_ 5 "the game behind the window" uncovered
 
 quitRace
+xdotool key e
 expectEnd

@@ -134,6 +134,7 @@ setUpRace
 designCourse 3
 playStage
 finishStage 1
+xdotool key e
 expectEnd
 
 rm "run/Story 1.csv"
@@ -152,6 +153,7 @@ click savedOk
 until_ 10 "the second stage" throwOpen
 playStage
 finishStage 2
+xdotool key e
 expectEnd
 
 startAgain "$1"
@@ -167,6 +169,7 @@ xdotool key o
 until_ 5 "the list again" pixelIsNot sheetTitle 000080
 xdotool key b
 until_ 5 "the main menu" menuOpen
+xdotool key e
 expectEnd
 
 # How many there are, and whether the control catches anybody, depends on the pace of the machine: the
