@@ -40,7 +40,7 @@ static void drawFloorFrame()
     glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
     useBoardLayer();
     glDisable(GL_DEPTH_TEST);
-    glCallList(lists.boardList);
+    glCallList(view.viewMode == VIEW_FLAT ? lists.boardList : lists.slantedBoardList);
     glutSwapBuffers();
     awaitFrame();
 }

@@ -7,6 +7,7 @@
 #include "race/race_state.h"
 #include "race/rider_place.h"
 #include "race/start_grid.h"
+#include "ui/layout.h"
 #include "ui/letters.h"
 #include "ui/matrices.h"
 #include "ui/models.h"
@@ -63,15 +64,27 @@ static bool onBoard(const Rider& rider)
     return !rider.offBoard && !rider.finished && rider.row != -1;
 }
 
+// Where a number begins, seen from the middle of its pawn, in board units. On a small window a pawn
+// is smaller than its number, which stands in its middle then.
+static BoardPoint numberOffset()
+{
+    constexpr int roomy = 768; // lines
+    if (layout.viewH >= roomy)
+        return {-12.0f, 8.0f};
+    const float unitsPerPixel = BOARD_WIDTH / layout.boardViewW;
+    return {-7.0f * unitsPerPixel, 4.0f * unitsPerPixel};
+}
+
 // On the pawn, whichever way up the board lies.
 static void drawNumberLabel(int index)
 {
     const Rider& rider = race.riders[index];
+    const BoardPoint offset = numberOffset();
     setColour(index == race.sprintWinner ? BLACK : WHITE);
     if (view.cameraIndex == 2)
-        glRasterPos2f(rider.x + 12.0f, rider.y - 8.0f);
+        glRasterPos2f(rider.x - offset.x, rider.y - offset.y);
     else
-        glRasterPos2f(rider.x - 12.0f, rider.y + 8.0f);
+        glRasterPos2f(rider.x + offset.x, rider.y + offset.y);
     drawLetters(std::to_string(riderNumber(index)), FONT_BODY);
 }
 

@@ -2,9 +2,9 @@
 
 // Every place and size on the screen. Nothing has a fixed pixel position: the window's size and the
 // screen ratio give one set of metrics, which drawing and hit tests both read. Coordinates are
-// pixels of the drawing area, x to the right, y downward, unless said otherwise. The design is a
-// 5:4 screen, so the drawing area stands in the window's middle with black bars left and right
-// wherever the monitor is wider.
+// logical pixels (see ui/scale) of the drawing area, x to the right, y downward, unless said
+// otherwise. The design is a 5:4 screen, so the drawing area stands in the window's middle with
+// black bars left and right, or above and below, wherever the monitor has another shape.
 
 constexpr int raceListRows = 20; // names in a column of the race list
 constexpr int raceListCols = 4;  // columns on a page of it

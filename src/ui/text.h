@@ -6,7 +6,7 @@
 #include <string_view>
 
 // Text on the screen, in the bitmap fonts of GLUT with accented letters of our own. All text is
-// Latin-1. Bitmap text keeps its pixel size whatever the window's size.
+// Latin-1. Bitmap text keeps its size in logical pixels whatever the window's size.
 
 // Width in pixels as the alignment of drawText measures it: by the tables for FONT_BODY and
 // FONT_TITLE, 6 pixels a character for the other two.

@@ -251,6 +251,21 @@ TEST(Keyboard, AKeyCountsAsItWasPressedWhateverIsLetGoFirst)
     EXPECT_EQ(raceSetup.teamName[0].substr(0, 1), "\xC4");
 }
 
+TEST(Keyboard, AltAndEnterChangeBetweenScreenAndWindowWhereverOneIs)
+{
+    startPersonsTurn(0);
+    Player player;
+    player.held = GLUT_ACTIVE_ALT;
+    player.press('\r');
+    player.held = 0; // Alt is often let go first
+    player.release('\r');
+    EXPECT_EQ(fakeHost.screenChanges, 1);
+    gameState = STATE_MOVE;
+    player.key('\r');
+    EXPECT_EQ(fakeHost.screenChanges, 1) << "Enter alone ends the move";
+    EXPECT_NE(gameState, STATE_MOVE);
+}
+
 TEST(Keyboard, TabGoesRoundTheTeamsWhereTheirTabsAct)
 {
     startRaceOn("64S5F12");

@@ -11,6 +11,7 @@ void installFakeHost()
     moveTimerFired();
     host = {.redraw = [] { ++fakeHost.redraws; },
             .armTimer = [](int ms) { fakeHost.pendingMs = ms; },
+            .toggleFullScreen = [] { ++fakeHost.screenChanges; },
             .quit = [] { ++fakeHost.quits; }};
 }
 

@@ -6,7 +6,8 @@ struct FakeHost {
     int redraws = 0;
     long clock = 0; // ms that timers have waited so far
     int quits = 0;
-    int pendingMs = -1; // delay of the tick that is armed, -1 none
+    int screenChanges = 0; // between the whole screen and a window
+    int pendingMs = -1;    // delay of the tick that is armed, -1 none
 };
 
 extern FakeHost fakeHost;

@@ -34,11 +34,7 @@ findControls()
     done < <(awk -v w="$width" -v h="$height" '
         function put(name, x, y) { printf "%s %d %d\n", name, left + x, y }
         BEGIN {
-            shape = w / h
-            if (shape >= 1.6) share = 25 / 32
-            else if (shape == 1.25) share = 1
-            else share = shape - 1.25 < 4 / 3 - shape ? 1 : shape - 4 / 3 < 1.6 - shape ? 15 / 16 : 25 / 32
-            v = int(w * share); left = int((w - v) * 0.5)
+            v = int(w < h * 1.25 ? w : h * 1.25); left = int((w - v) * 0.5)
             cardW = int(v * 3 / 70); cardH = int(h * 12 / 175)
             hud = h * 0.761; panelX = v * 0.02; panelW = v * 0.496
             gap = (panelW - 9 * cardW) / 10
