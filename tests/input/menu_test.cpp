@@ -92,6 +92,7 @@ TEST_F(SettingsScreenTest, KeysGoRoundTheOpenFieldsOnly)
     player.held = 0;
 
     player.click(CONTROL_STEPWISE);
+    EXPECT_EQ(field(), FIELD_STEP_DELAY);
     player.type("\t\r");
     player.special({GLUT_KEY_UP, GLUT_KEY_DOWN});
     EXPECT_EQ(field(), FIELD_STEP_DELAY);
@@ -182,6 +183,10 @@ TEST_F(SettingsScreenTest, AMoveIsFrozenAndGoesOnUnderTheNewRatio)
     player.click({CONTROL_RATIO_43, CONTROL_SETTINGS_OK});
     EXPECT_EQ(layout.viewW, 1200);
     EXPECT_EQ(gameState, STATE_ANIMATE);
+    const Image anew = screenshot();
+    resizeScreen(1000, 800);
+    resizeScreen(1280, 1024);
+    EXPECT_TRUE(screenshot() == anew) << "shapes keep the size that they were compiled with";
     EXPECT_EQ(rider.x, x);
     EXPECT_EQ(fakeHost.pendingMs, 0);
     runTick();
