@@ -14,6 +14,7 @@ constexpr float LIST_LINES =
 
 // Letters don't get smaller with the window, so that some places have to be made for them.
 constexpr float FOOT_LINE_H = 12.0f;
+constexpr float SIDE_LABEL_W = 95.5f;     // "Computer player" beside the whole board
 constexpr float STACKED_LABELS_H = 21.0f; // for "2D" above "3D"
 constexpr float LABELS_ABREAST_W = 38.0f; // for one beside the other
 
@@ -325,9 +326,9 @@ static void layoutScorecard(Layout& l, float viewW, float viewH)
 
 static void layoutOverview(Layout& l, float viewW, float viewH)
 {
-    l.overviewW         = viewW * 0.8f;
+    l.overviewX         = std::max(viewW * 0.1f, SIDE_LABEL_W);
+    l.overviewW         = std::min(viewW * 0.8f, viewW - 2.0f * l.overviewX);
     l.overviewH         = l.overviewW * 1152.0f / 1954.0f / aspectFix();
-    l.overviewX         = viewW * 0.1f;
     l.overviewY         = viewH * 0.46f - l.overviewH * 0.5f;
     l.overviewTitleX    = viewW * 0.05f;
     l.overviewTitleY    = viewH * 0.81f;

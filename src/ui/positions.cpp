@@ -43,6 +43,8 @@ constexpr TeamPlace teamPlaces[TEAM_COUNT] = {
 };
 // clang-format on
 
+constexpr int NARROW = 900; // below it names at the sides take the small letters
+
 static Spot inDrawingArea(Spot fraction)
 {
     return {fraction.x * static_cast<float>(layout.viewW),
@@ -83,12 +85,26 @@ static void drawLabel(Spot at, std::string_view text, Font font)
     drawText(std::max(half, std::min(at.x, right)), at.y, ALIGN_CENTRE, text, font);
 }
 
+// On a low window there is no room above and below the pawns of a row: its team stands behind them.
+static Spot labelSpot(int team)
+{
+    constexpr int low = 700;
+    constexpr float behind = 0.43f; // from the first pawn
+    constexpr float drop = 10.0f;
+    const TeamPlace& place = teamPlaces[team];
+    if (layout.viewH >= low || place.step.x == 0.0f)
+        return inDrawingArea(place.label);
+    const Spot at = inDrawingArea({place.firstPawn.x + behind, place.firstPawn.y});
+    return {at.x, at.y + drop};
+}
+
 static void drawTeamLabel(int team)
 {
     constexpr float NAME_RISE = 14.0f;
-    const Spot at = inDrawingArea(teamPlaces[team].label);
+    const Spot at = labelSpot(team);
     setColour(WHITE);
-    drawLabel({at.x, at.y - NAME_RISE}, raceSetup.teamName[team], FONT_TITLE);
+    drawLabel({at.x, at.y - NAME_RISE}, raceSetup.teamName[team],
+              layout.viewW < NARROW ? FONT_BODY : FONT_TITLE);
     if (!race.riders[team * RIDERS_PER_TEAM].isHuman)
         drawLabel(at, texts.computerPlayer, FONT_BODY);
 }
