@@ -81,6 +81,7 @@ TEST_F(RaceWords, TellsATurnFromItsBeginningToTheNextRiders)
     race.riderLapCount[0] = 7;
     EXPECT_EQ(panelWords(), "Netherlands|Moves: |Moves left: |Round:2|Lap:1");
     race.currentRider = -1;
+    gameState = STATE_TRANSIT;
     EXPECT_EQ(panelWords(), "Moves: |Moves left: |Round:2|Lap:");
     gameState = STATE_FINAL_SCORECARD;
     EXPECT_EQ(panelWords(), "Moves: |Moves left: |Round:|Lap:");
