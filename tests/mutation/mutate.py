@@ -85,6 +85,9 @@ class Workplace:
     def build(self, program):
         return self.run(["cmake", "--build", ".", "--target", program, "--", "-j1"]) == 0
 
+    def dateOf(self, program):
+        return (self.built / "tests" / program).stat().st_mtime_ns
+
     def test(self, program, chosen, limit=600):
         """The test that failed, crashed or didn't end in time; none if all passed."""
         command = ["tests/" + program, "--gtest_fail_fast", "--gtest_filter=" + chosen]
@@ -92,7 +95,8 @@ class Workplace:
             return None
         told = self.log.read_text(errors="replace")
         failed = re.search(r"\[  FAILED  \] ([\w/.]+)", told)
-        return failed[1] if failed else re.findall(r"\[ RUN  .*\] (\S+)", told)[-1] + ", which died"
+        begun = re.findall(r"\[ RUN  .*\] (\S+)", told) or ["the start"]
+        return failed[1] if failed else begun[-1] + ", which died"
 
     def planRounds(self, program):
         """Tests the unchanged game. Returns filters for quick tests and slow ones, with limits."""
@@ -100,7 +104,7 @@ class Workplace:
             sys.exit(f"{program} doesn't build or fails in the unchanged game, see {self.log}")
         passed = re.findall(r"\[ +OK \] (\S+?),? .*\((\d+) ms\)", self.log.read_text())
         slow = ":".join(name for name, duration in passed if int(duration) > SLOW_MS)
-        limit = 20 + 4 * sum(int(duration) for name, duration in passed) / 1000
+        limit = 60 + 4 * sum(int(duration) for name, duration in passed) / 1000
         return [(f"{LEFT_OUT}:{slow}", limit), (slow, limit)] if slow else [(LEFT_OUT, limit)]
 
     def judge(self, file, old, new):
@@ -113,10 +117,10 @@ class Workplace:
         path.write_text(before[:places[0][0]] + new + before[places[0][1]:])
         try:
             for program in PROGRAMS:
-                dateBefore = (self.built / "tests" / program).stat().st_mtime_ns
+                dateBefore = self.dateOf(program)
                 if not self.build(program):
                     return "NO COMPILE", None
-                if (self.built / "tests" / program).stat().st_mtime_ns == dateBefore:
+                if self.dateOf(program) == dateBefore:
                     continue
                 for chosen, limit in self.rounds[program]:
                     if failed := self.test(program, chosen, limit):
@@ -142,9 +146,10 @@ def measure(jobs):
              for part in range(jobs)]
     lines = []
     try:
-        for line in (line for part in parts for line in part.stdout):
-            print(line, end="", flush=True)
-            lines.append(line)
+        for part in parts:
+            for line in part.stdout:
+                print(line, end="", flush=True)
+                lines.append(line)
         if any([part.wait() for part in parts]):
             sys.exit(1)
     finally:
