@@ -47,11 +47,23 @@ RouteBest trial(Square from, int thrown, int sprint, Square start = {})
     return best;
 }
 
+// As far as a throw of 12 could bring him with nobody in his way.
+int furthestRow(Square from)
+{
+    return course.reach12[from.row][from.lane];
+}
+
 // The smallest throw that brings the rider past a further line than the smaller ones do.
 Wish wishForLine(int& sprint)
 {
     Wish wish;
     const Square from = squareOfMover();
+    const int line = nextLine(from.row);
+    if (line == LINE_COUNT || furthestRow(from) <= lineRow(line)) {
+        race.movesTotal = HIGHEST_THROW;
+        sprint = wish.maxSprint = line; // for which no throw will do
+        return wish;
+    }
     for (int thrown = 1; thrown <= HIGHEST_THROW; ++thrown) {
         race.movesTotal = thrown;
         sprint = trial(from, thrown, sprint).sprint;
@@ -71,16 +83,16 @@ void wishForGoal(Wish& wish, int& sprint)
 {
     const Square from = squareOfMover();
     const RouteBest best12 = trial(from, HIGHEST_THROW, sprint);
-    const RouteBest next = trial({best12.row, best12.lane}, AVERAGE_THROW, best12.sprint, {0, 0});
-    sprint = next.sprint;
-    if (next.row > course.finishRow) {
+    const Square end = {best12.row, best12.lane};
+    if (furthestRow(end) > course.finishRow &&
+        trial(end, AVERAGE_THROW, best12.sprint, {0, 0}).row > course.finishRow) {
         wish = {.needed = HIGHEST_THROW, .maxSprint = GOAL_FINISH};
         return;
     }
+    if (furthestRow(from) <= course.lastClimbRow)
+        return;
     for (int thrown = 5; thrown <= 10; ++thrown) {
-        const RouteBest best = trial(from, thrown, sprint);
-        sprint = best.sprint;
-        if (best.row > course.lastClimbRow) {
+        if (trial(from, thrown, sprint).row > course.lastClimbRow) {
             wish = {.needed = thrown, .maxSprint = GOAL_PAST_CLIMB};
             return;
         }
@@ -89,7 +101,7 @@ void wishForGoal(Wish& wish, int& sprint)
 
 bool isWorthCards(const Wish& wish)
 {
-    if (wish.needed == NO_THROW || race.roundNumber == 1)
+    if (wish.needed == NO_THROW)
         return false;
     if (wish.maxSprint == GOAL_PAST_CLIMB)
         return true;
@@ -167,8 +179,19 @@ void decideBreakaway()
     redrawNow();
 }
 
+bool hasCardToLay()
+{
+    for (int slot = 0; slot < SET_CARD_COUNT; ++slot)
+        if (cardPlayable(slot))
+            return true;
+    return false;
+}
+
+// The wish takes most of a turn to find, and without a card nothing follows from it.
 void chooseCards()
 {
+    if (!hasCardToLay())
+        return;
     int sprint = -1;
     Wish wish = wishForLine(sprint);
     if (wish.needed == NO_THROW)

@@ -2,7 +2,6 @@
 
 #include "ai/square_judgement.h"
 #include "board/course.h"
-#include "race/step_rule.h"
 
 #include <algorithm>
 
@@ -37,9 +36,9 @@ ReachRow reachOfRow(int row, const ReachRow& ahead)
             continue;
         }
         reach[lane] = filled<int, REACH_BUDGETS>(row);
-        for (const char letter : STEP_LETTERS)
-            if (stepTarget(row, lane, letter, true) != NO_STEP)
-                reachThrough(reach[lane], ahead[stepEntry(row, lane, letter).lane]);
+        for (int step = 0; step < STEP_COUNT; ++step)
+            if (course.stepRows[row][lane][step] != STEP_REFUSED)
+                reachThrough(reach[lane], ahead[lane + STEP_LANES[step]]);
     }
     return reach;
 }

@@ -12,8 +12,8 @@ namespace
 // The largest budget with which a search has been on each square. Entries carry the number of their
 // search, so that a new one starts without clearing the table.
 struct Memo {
-    static constexpr int BUDGETS = 64;
-    Table2<int, COURSE_LANES, COURSE_MAX_ROWS> seen{};
+    static constexpr int BUDGETS = 64; // more than any budget of a walk
+    Table2<int, COURSE_MAX_ROWS, COURSE_LANES> seen{};
     int search = 0;
 
     void begin()
@@ -25,10 +25,15 @@ struct Memo {
         search += BUDGETS;
     }
 
-    // Whether the square has been seen with at least this budget.
-    bool knows(Square at, int budget) const { return seen[at.lane][at.row] > search + budget; }
+    // Whether the square has been seen with at least this budget, or is closed.
+    bool knows(Square at, int budget) const { return seen[at.row][at.lane] > search + budget; }
 
-    void note(Square at, int budget) { seen[at.lane][at.row] = search + budget + 1; }
+    bool isNew(Square at) const { return seen[at.row][at.lane] <= search; }
+
+    void note(Square at, int budget) { seen[at.row][at.lane] = search + budget + 1; }
+
+    // No step of this search ends there.
+    void close(Square at) { note(at, BUDGETS - 1); }
 };
 
 struct Walk {
@@ -46,18 +51,27 @@ bool seeksTarget(const RouteQuestion& question)
 
 void visit(Walk& walk, Square at, int budget);
 
-// True as soon as a target is found: the search is over. A square that is known with as many moves
-// is passed over before the dearer question whether the step is allowed.
+// Whether a step of this walk may end on a square that it doesn't know with as many moves. Riders
+// stand still while it lasts, so that each square is asked once.
+bool mayEndOn(Walk& walk, Square at)
+{
+    if (walk.question.reachOnly || !walk.memo.isNew(at) || isFree(at.row, at.lane))
+        return true;
+    walk.memo.close(at);
+    return false;
+}
+
+// True as soon as a target is found: the search is over.
 bool trySteps(Walk& walk, Square at, int budget)
 {
-    for (const char letter : STEP_LETTERS) {
-        const Square entry = stepEntry(at.row, at.lane, letter);
-        const Square landing = {skipPassThrough(entry.row, entry.lane, 1), entry.lane};
-        if (!onGrid(landing.row, landing.lane) || walk.memo.knows(landing, budget - 1) ||
-            stepTarget(at.row, at.lane, letter, walk.question.reachOnly) == NO_STEP)
+    const StepRows& ends = course.stepRows[at.row][at.lane];
+    for (int step = 0; step < STEP_COUNT; ++step) {
+        const Square end = {ends[step], at.lane + STEP_LANES[step]};
+        if (end.row == STEP_REFUSED || end.row >= COURSE_MAX_ROWS ||
+            walk.memo.knows(end, budget - 1) || !mayEndOn(walk, end))
             continue;
-        walk.path.letters[walk.path.length++] = letter;
-        visit(walk, landing, budget - 1);
+        walk.path.letters[walk.path.length++] = STEP_LETTERS[step];
+        visit(walk, end, budget - 1);
         if (seeksTarget(walk.question) && !walk.best.path.empty())
             return true;
         --walk.path.length;

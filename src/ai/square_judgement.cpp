@@ -28,19 +28,27 @@ struct Worth {
     FollowerPlan gain = NOBODY_FOLLOWS;
 };
 
-int reach12Of(Square at)
+// The furthest row from a square with a throw of 12, and of 11; -1 outside the grid.
+struct Reach {
+    int with12 = -1;
+    int with11 = -1;
+};
+
+Reach reachFrom(int row, int lane)
 {
-    return onGrid(at.row, at.lane) ? course.reach12[at.row][at.lane] : -1;
+    if (!onGrid(row, lane))
+        return {};
+    return {.with12 = course.reach12[row][lane], .with11 = course.reach11[row][lane]};
 }
 
-int reach11Of(Square at)
+Reach reachOf(const Candidate& candidate)
 {
-    return onGrid(at.row, at.lane) ? course.reach11[at.row][at.lane] : -1;
+    return reachFrom(candidate.at.row, candidate.at.lane);
 }
 
-Square squareOf(const RouteBest& best)
+Reach reachOf(const RouteBest& best)
 {
-    return {best.row, best.lane};
+    return reachFrom(best.row, best.lane);
 }
 
 bool isBigThrow()
@@ -52,14 +60,6 @@ int unmovedOccupant(Square at)
 {
     const int rider = occupantAt(at.row, at.lane);
     return rider != -1 && race.riders[rider].hasMoved == 0 ? rider : -1;
-}
-
-int nextLine(int row)
-{
-    int line = 0;
-    while (line < LINE_COUNT && (row > lineRow(line) || lineRow(line) == -1))
-        ++line;
-    return line;
 }
 
 // Being past a line counts as long as its last place is open. A sprint that the course doesn't have
@@ -123,7 +123,7 @@ void simulateFollowers(const Candidate& candidate, Worth& worth)
             break;
         ++all;
         own += riderTeam(rider) == riderTeam(race.currentRider);
-        worth.gain[rider] = reach12Of(to);
+        worth.gain[rider] = reachFrom(to.row, to.lane).with12;
     }
     if (all > 0)
         worth.share = static_cast<double>(own) / all;
@@ -149,7 +149,7 @@ int compareFollowers(const Candidate& candidate, const Worth& worth, const Route
     }
     if (ownGain == 0 && oppGain == 0)
         return 0;
-    const int value = 3 * (reach12Of(candidate.at) - reach12Of(squareOf(best)) + ownGain);
+    const int value = 3 * (reachOf(candidate).with12 - reachOf(best).with12 + ownGain);
     return (value > oppGain) - (value < oppGain);
 }
 
@@ -158,10 +158,10 @@ bool isHopeless(const Candidate& candidate, int sprintCmp, const RouteBest& best
 {
     if (best.row == -1 || sprintCmp == 1)
         return false;
-    const int reach12 = reach12Of(candidate.at);
+    const Reach own = reachOf(candidate);
+    const Reach other = reachOf(best);
     return sprintCmp == -1 ||
-           (reach11Of(candidate.at) <= reach12Of(squareOf(best)) &&
-            reach12 < reach12Of(squareOf(best)) && reach12 < reach11Of(squareOf(best)));
+           (own.with11 <= other.with12 && own.with12 < other.with12 && own.with12 < other.with11);
 }
 
 bool isBetterCompany(const Worth& worth, const RouteBest& best)
@@ -197,16 +197,16 @@ bool isBetter(const Candidate& candidate, const Worth& worth, const RouteBest& b
 {
     if (best.row == -1 || worth.sprintCmp == 1)
         return true;
-    const int reach12 = reach12Of(candidate.at);
-    const int bestReach12 = reach12Of(squareOf(best));
-    if (reach11Of(candidate.at) > bestReach12)
+    const Reach own = reachOf(candidate);
+    const Reach other = reachOf(best);
+    if (own.with11 > other.with12)
         return true;
-    if (reach12 > bestReach12 && worth.own >= best.own && worth.followCmp != -1)
+    if (own.with12 > other.with12 && worth.own >= best.own && worth.followCmp != -1)
         return true;
-    const bool equal = reach12 == bestReach12;
+    const bool equal = own.with12 == other.with12;
     if (equal && winsEqualReach(worth, best))
         return true;
-    if (reach12 >= reach11Of(squareOf(best)) && worth.own > best.own &&
+    if (own.with12 >= other.with11 && worth.own > best.own &&
         (worth.near <= best.near || worth.own > best.own + 1))
         return true;
     return equal && winsByPlace(candidate, worth, best);
@@ -227,17 +227,10 @@ void accept(const Candidate& candidate, const Worth& worth, const RoutePath& pat
         race.followerPlan = worth.gain;
 }
 
-} // namespace
-
-void judgeSquare(const Candidate& candidate, const RoutePath& path, RouteBest& best)
+void judgeClosely(const Candidate& candidate, int nextSprint, int sprintCmp, const RoutePath& path,
+                  RouteBest& best)
 {
-    const int nextSprint = nextLine(candidate.at.row);
-    const int sprintCmp = compareSprints(nextSprint, best);
-    if (isHopeless(candidate, sprintCmp, best))
-        return;
-    Worth worth;
-    worth.nextSprint = nextSprint;
-    worth.sprintCmp = sprintCmp;
+    Worth worth{.nextSprint = nextSprint, .sprintCmp = sprintCmp};
     countChain(candidate, -1, worth.oppBehind, worth);
     countChain(candidate, 1, worth.oppAhead, worth);
     if (isBigThrow() && candidate.question.simulateFollowers && !race.breakaway) {
@@ -246,4 +239,14 @@ void judgeSquare(const Candidate& candidate, const RoutePath& path, RouteBest& b
     }
     if (isBetter(candidate, worth, best))
         accept(candidate, worth, path, best);
+}
+
+} // namespace
+
+void judgeSquare(const Candidate& candidate, const RoutePath& path, RouteBest& best)
+{
+    const int nextSprint = nextLine(candidate.at.row);
+    const int sprintCmp = compareSprints(nextSprint, best);
+    if (!isHopeless(candidate, sprintCmp, best))
+        judgeClosely(candidate, nextSprint, sprintCmp, path, best);
 }

@@ -64,8 +64,6 @@ static void addBarriers(const Section& section, int firstRow, int laneShift)
         barrier.endRow += firstRow;
         barrier.lane += laneShift;
         course.courseBarriers.push_back(barrier);
-        for (int row = barrier.firstRow; row < barrier.endRow; ++row)
-            course.wallOnRight[row][barrier.lane] = 1;
     }
 }
 
@@ -116,6 +114,44 @@ static void indexPieces(const std::vector<Piece>& pieces,
     }
 }
 
+static void refuseStepsThroughBarriers()
+{
+    for (const LaneBarrier& barrier : course.courseBarriers) {
+        for (int row = barrier.firstRow; row < barrier.endRow; ++row) {
+            course.stepRows[row][barrier.lane][STEP_RIGHT] = STEP_REFUSED;
+            course.stepRows[row][barrier.lane + 1][STEP_LEFT] = STEP_REFUSED;
+        }
+    }
+}
+
+// The row on which a step ends that enters this square, given that of one that enters the square
+// ahead of it.
+static short endOfEntering(int row, int lane, short endAhead)
+{
+    const int modifier = course.moveModifier[row][lane];
+    if (modifier == NO_SQUARE)
+        return STEP_REFUSED;
+    if (modifier == PASS_THROUGH && endAhead != STEP_REFUSED)
+        return endAhead;
+    return static_cast<short>(modifier == PASS_THROUGH ? row + 1 : row);
+}
+
+static void layOutSteps()
+{
+    Table<short, COURSE_LANES> ends{}; // of steps that enter the row ahead
+    for (int row = course.courseRowCount - 1; row >= 0; --row) {
+        for (int lane = 0; lane < COURSE_LANES; ++lane) {
+            StepRows& steps = course.stepRows[row][lane];
+            steps[STEP_AHEAD] = ends[lane];
+            steps[STEP_LEFT] = lane > 0 ? ends[lane - 1] : STEP_REFUSED;
+            steps[STEP_RIGHT] = lane < COURSE_LANES - 1 ? ends[lane + 1] : STEP_REFUSED;
+        }
+        for (int lane = 0; lane < COURSE_LANES; ++lane)
+            ends[lane] = endOfEntering(row, lane, ends[lane]);
+    }
+    refuseStepsThroughBarriers();
+}
+
 static void appendSections()
 {
     int laneShift = 0;
@@ -148,6 +184,7 @@ void assembleCourse()
     course = EMPTY;
     course.lastClimbRow = lastClimbRow;
     appendSections();
+    layOutSteps();
     indexPieces(course.courseStraights, course.straightsOfRow);
     indexPieces(course.courseCurves, course.curvesOfRow);
 }

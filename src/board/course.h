@@ -27,6 +27,13 @@ struct Square {
 
 using Grid = Table2<int, COURSE_MAX_ROWS, COURSE_LANES>;
 
+// The three steps that a rider may take from a square, each one row forward. A search tries them in
+// this order, which decides between equals.
+enum Step { STEP_AHEAD, STEP_LEFT, STEP_RIGHT, STEP_COUNT };
+constexpr Table<int, STEP_COUNT> STEP_LANES = {0, -1, 1};
+constexpr short STEP_REFUSED = 0; // no step ends on row 0
+using StepRows = Table<short, STEP_COUNT>;
+
 // A grid with the same value everywhere.
 Grid gridOf(int value);
 
@@ -42,8 +49,11 @@ struct CourseGrid {
     Grid courseOccupant = gridOf(-1); // rider who stands on the square
     Grid reach12 = gridOf(-1);        // furthest row from here with a throw of 12, riders left out
     Grid reach11 = gridOf(-1);
-    Grid wallOnRight = gridOf(0); // 1 where a barrier stops the change from lane to lane + 1
-    int courseRowCount = 0;       // rows in use; those behind are NO_SQUARE
+    // The row on which each step from a square ends, behind the PASS_THROUGH squares that it
+    // enters, or STEP_REFUSED by the edge of the road or a barrier. Riders don't count. At the end
+    // of the course such a row may hold no square.
+    Table2<StepRows, COURSE_MAX_ROWS, COURSE_LANES> stepRows{};
+    int courseRowCount = 0; // rows in use; those behind are NO_SQUARE
     Table<int, SPRINT_COUNT> sprintRows = filled<int, SPRINT_COUNT>(-1); // last row before the line
     int finishRow = -1;
     Table<int, LAP_END_MAX> lapEndRows = filled<int, LAP_END_MAX>(-1);
@@ -111,6 +121,12 @@ inline int occupantAt(int row, int lane)
     return -1;
 }
 
+// Whether a rider could stand there: a real square with nobody on it on any lap.
+inline bool isFree(int row, int lane)
+{
+    return isRealSquare(squareAt(row, lane)) && occupantAt(row, lane) == -1;
+}
+
 // The nearest row from `row` in direction step (1 or -1) whose square in this lane isn't
 // PASS_THROUGH; it may lie outside the grid.
 inline int skipPassThrough(int row, int lane, int step)
@@ -124,6 +140,16 @@ inline int skipPassThrough(int row, int lane, int step)
 inline int lineRow(int line)
 {
     return line < SPRINT_COUNT ? course.sprintRows[line] : course.finishRow;
+}
+
+// The line that lies next from a row: 0 to 2 a sprint, 3 the finish, LINE_COUNT behind it. A row in
+// front of a line hasn't passed it.
+inline int nextLine(int row)
+{
+    int line = 0;
+    while (line < LINE_COUNT && (row > lineRow(line) || lineRow(line) == -1))
+        ++line;
+    return line;
 }
 
 // Laps of a course, from 1. LAPS_DRIVEN counts the digits that end a lap, which limits a design;

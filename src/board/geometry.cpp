@@ -263,16 +263,23 @@ void closeWay(std::vector<WayPoint>& way, const Placement& end)
 // where no piece says how it runs: there the way leads straight on.
 void followRoad(std::vector<WayPoint>& way, float fromRow, float toRow, float lane)
 {
-    const auto place = placeOnPiece(toRow, lane);
-    const bool bends = !place || std::abs(std::remainder(place->heading - way.back().heading,
-                                                         FULL_TURN)) > SHARPEST_TURN;
-    if (toRow - fromRow > SAMPLE_ROWS || (bends && toRow - fromRow > FINEST_ROWS)) {
+    const float rows = toRow - fromRow;
+    const auto halve = [&] {
         const float middle = (fromRow + toRow) / 2;
         followRoad(way, fromRow, middle, lane);
         followRoad(way, middle, toRow, lane);
-    } else if (place) {
-        extendWay(way, *place);
+    };
+    if (rows > SAMPLE_ROWS) {
+        halve();
+        return;
     }
+    const auto place = placeOnPiece(toRow, lane);
+    const bool bends = !place || std::abs(std::remainder(place->heading - way.back().heading,
+                                                         FULL_TURN)) > SHARPEST_TURN;
+    if (bends && rows > FINEST_ROWS)
+        halve();
+    else if (place)
+        extendWay(way, *place);
 }
 
 } // namespace

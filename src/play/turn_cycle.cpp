@@ -68,11 +68,6 @@ static void placeAt(int rider, Square square)
     placeOnBoard(rider);
 }
 
-static bool isFree(int row, int lane)
-{
-    return isRealSquare(squareAt(row, lane)) && occupantAt(row, lane) == -1;
-}
-
 static Square nearestFreeBehind(Square from)
 {
     for (int lane = from.lane; lane >= 0; --lane)

@@ -1,24 +1,17 @@
 #include "race/step_rule.h"
 
-#include "board/course.h"
-
-static bool wallStops(int row, int lane, char letter)
+static int stepOf(char letter)
 {
-    if (letter == 'R')
-        return course.wallOnRight[row][lane] != 0;
-    return letter == 'L' && course.wallOnRight[row][lane - 1] != 0;
+    return letter == 'L' ? STEP_LEFT : letter == 'R' ? STEP_RIGHT : STEP_AHEAD;
 }
 
 Square stepTarget(int row, int lane, char letter, bool reachOnly)
 {
-    const Square entry = stepEntry(row, lane, letter);
-    if (squareAt(entry.row, entry.lane) == NO_SQUARE || wallStops(row, lane, letter))
+    const int step = stepOf(letter);
+    const Square landing = {course.stepRows[row][lane][step], lane + STEP_LANES[step]};
+    if (landing.row == STEP_REFUSED)
         return NO_STEP;
     if (reachOnly)
         return {row, lane};
-    const Square landing = {skipPassThrough(entry.row, entry.lane, 1), entry.lane};
-    if (squareAt(landing.row, landing.lane) == NO_SQUARE ||
-        occupantAt(landing.row, landing.lane) != -1)
-        return NO_STEP;
-    return landing;
+    return isFree(landing.row, landing.lane) ? landing : NO_STEP;
 }
