@@ -45,29 +45,45 @@ static void openWindow(int* argc, char** argv)
     windowOpen = true;
 }
 
-static bool inFullScreen = false;
+static bool filledByGlut = false;
 
 static void fillScreen()
 {
-    if (!coverMainMonitor())
+    const bool covered = coverMainMonitor();
+    if (managerMakesFullScreen())
+        return askForFullScreen(true);
+    if (!covered)
         glutFullScreen();
-    inFullScreen = true;
+    filledByGlut = true;
+}
+
+static void leaveFullScreen()
+{
+    if (managerMakesFullScreen())
+        return askForFullScreen(false);
+    glutLeaveFullScreen();
+    filledByGlut = false;
 }
 
 // The window between: of the size that it would have had, as far as the screen has room for it.
 static void changeScreen()
 {
-    if (!inFullScreen)
+    if (!(managerMakesFullScreen() ? managerShowsFullScreen() : filledByGlut))
         return fillScreen();
-    inFullScreen = false;
-    glutLeaveFullScreen();
+    leaveFullScreen();
     glutReshapeWindow(std::min(1280 * scale(), glutGet(GLUT_SCREEN_WIDTH) * 9 / 10),
                       std::min(960 * scale(), glutGet(GLUT_SCREEN_HEIGHT) * 9 / 10));
 }
 
+// GLUT's first report is of the size that was asked for; the window may have another by then.
+static void onReport(int, int)
+{
+    onReshape(glutGet(GLUT_WINDOW_WIDTH), glutGet(GLUT_WINDOW_HEIGHT));
+}
+
 static void registerCallbacks()
 {
-    glutReshapeFunc(onReshape);
+    glutReshapeFunc(onReport);
     glutDisplayFunc(drawFrame);
     glutIdleFunc(onIdleLoad);
     glutMouseFunc(onMouse);

@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <iterator>
+#include <vector>
 
 // For each size its width, its height and its pixels as alpha, red, green and blue. Made from
 // packaging/icon/window_icon.argb, which the painter paints. X11 wants longs, whatever their size.
@@ -47,19 +48,67 @@ double dotsPerInch()
     return resource ? std::atof(resource) : 0.0;
 }
 
-static bool hasWindowManager(Display* display)
+// The value of a property whose values are atoms, or windows; empty if it isn't set.
+static std::vector<unsigned long> readProperty(Display* display, Window window, const char* name)
 {
+    constexpr long MOST_VALUES = 1024;
     Atom type = None;
     int bits = 0;
     unsigned long count = 0;
     unsigned long left = 0;
     unsigned char* value = nullptr;
-    XGetWindowProperty(display, DefaultRootWindow(display),
-                       XInternAtom(display, "_NET_SUPPORTING_WM_CHECK", False), 0, 1, False,
+    XGetWindowProperty(display, window, XInternAtom(display, name, False), 0, MOST_VALUES, False,
                        AnyPropertyType, &type, &bits, &count, &left, &value);
+    std::vector<unsigned long> values;
+    if (value && bits == 32) {
+        const auto* first = reinterpret_cast<const unsigned long*>(value);
+        values.assign(first, first + count);
+    }
     if (value)
         XFree(value);
-    return count > 0;
+    return values;
+}
+
+static bool namesFullScreen(Display* display, Window window, const char* property)
+{
+    const auto values = readProperty(display, window, property);
+    const Atom fullScreen = XInternAtom(display, "_NET_WM_STATE_FULLSCREEN", False);
+    return std::find(values.begin(), values.end(), fullScreen) != values.end();
+}
+
+static bool hasWindowManager(Display* display)
+{
+    return !readProperty(display, DefaultRootWindow(display), "_NET_SUPPORTING_WM_CHECK").empty();
+}
+
+bool managerMakesFullScreen()
+{
+    Display* display = glXGetCurrentDisplay();
+    return display && hasWindowManager(display) &&
+           namesFullScreen(display, DefaultRootWindow(display), "_NET_SUPPORTED");
+}
+
+void askForFullScreen(bool full)
+{
+    Display* display = glXGetCurrentDisplay();
+    constexpr long FROM_AN_APPLICATION = 1;
+    XEvent event{};
+    event.type = ClientMessage;
+    event.xclient.window = glXGetCurrentDrawable();
+    event.xclient.message_type = XInternAtom(display, "_NET_WM_STATE", False);
+    event.xclient.format = 32;
+    event.xclient.data.l[0] = full;
+    event.xclient.data.l[1] =
+        static_cast<long>(XInternAtom(display, "_NET_WM_STATE_FULLSCREEN", False));
+    event.xclient.data.l[3] = FROM_AN_APPLICATION;
+    XSendEvent(display, DefaultRootWindow(display), False,
+               SubstructureRedirectMask | SubstructureNotifyMask, &event);
+    XFlush(display);
+}
+
+bool managerShowsFullScreen()
+{
+    return namesFullScreen(glXGetCurrentDisplay(), glXGetCurrentDrawable(), "_NET_WM_STATE");
 }
 
 static bool knowsMonitors(Display* display)
@@ -98,6 +147,15 @@ bool coverMainMonitor()
 #else
 
 void introduceWindow() {}
+bool managerMakesFullScreen()
+{
+    return false;
+}
+void askForFullScreen(bool) {}
+bool managerShowsFullScreen()
+{
+    return false;
+}
 bool coverMainMonitor()
 {
     return false;

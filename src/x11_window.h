@@ -15,3 +15,12 @@ double dotsPerInch();
 // it full-screen there. True if there is no window manager and the window covers that monitor
 // already: a full screen of GLUT's would cover all of them.
 bool coverMainMonitor();
+
+// Whether there is a window manager that can show the window full-screen. It is asked directly:
+// GLUT would do so only when its loop begins, by which time the window could have its size, and
+// can't be told when the manager changes its mind.
+bool managerMakesFullScreen();
+
+// Asks it to begin or to end that, and whether it is doing so. Only where it can.
+void askForFullScreen(bool full);
+bool managerShowsFullScreen();

@@ -9,6 +9,7 @@
 
 constexpr Square NO_STEP = {-1, -1};
 
+// By Step.
 constexpr Table<char, STEP_COUNT> STEP_LETTERS = {'M', 'L', 'R'};
 
 // The landing square of a step from a square of the grid, or NO_STEP if it is refused: by the edge

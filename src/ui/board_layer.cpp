@@ -15,7 +15,10 @@
 
 #include <GL/gl.h>
 
+#include <algorithm>
+#include <numeric>
 #include <string>
+#include <utility>
 
 // Where the sprint winner stands a second time in perspective view.
 constexpr BoardPoint PODIUM = {652.0f, 422.0f};
@@ -102,10 +105,17 @@ static void drawPawns(PawnShape shape)
     }
 }
 
-// All numbers behind all pawns: OpenGL is much slower where shapes and bitmaps take turns.
+// All numbers behind all pawns: OpenGL is much slower where shapes and bitmaps take turns. And from
+// left to right, line by line: Mesa draws bitmaps that follow each other along a line as one.
 static void drawNumberLabels()
 {
-    for (int i = 0; i < RIDER_COUNT; ++i)
+    constexpr float lineH = 12.0f; // board units
+    Table<int, RIDER_COUNT> order{};
+    std::iota(order.begin(), order.end(), 0);
+    std::ranges::sort(order, {}, [](int i) {
+        return std::pair(static_cast<int>(race.riders[i].y / lineH), race.riders[i].x);
+    });
+    for (const int i : order)
         if (onBoard(race.riders[i]))
             drawNumberLabel(i);
 }
@@ -137,6 +147,8 @@ static void drawPlane()
 void drawBoardLayer()
 {
     useBoardLayer();
+    if (view.viewMode == VIEW_PERSPECTIVE)
+        glClear(GL_DEPTH_BUFFER_BIT); // nothing else asks how deep it lies
     drawPlane();
     placeRiders();
     if (view.viewMode == VIEW_FLAT) {

@@ -74,7 +74,7 @@ void drawFrame()
 {
     if (!windowOpen)
         return;
-    glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
+    glClear(GL_COLOR_BUFFER_BIT);
     setLineWidth(1.0f);
     if (boardVisible())
         drawBoardLayer();

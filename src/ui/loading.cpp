@@ -4,13 +4,8 @@
 #include "app/host.h"
 #include "board/designer.h"
 #include "board/pictures.h"
-#include "board/section_shapes.h"
 #include "ui/layout.h"
-#include "ui/models.h"
-#include "ui/picture_strip.h"
 #include "ui/scale.h"
-#include "ui/textures.h"
-#include "ui/widgets.h"
 
 #include <GL/freeglut.h>
 
@@ -18,54 +13,33 @@ LoadingProgress loadingProgress;
 
 constexpr int SETTLING_MS = 150;
 
-// Painting takes its time, and pixels don't depend on the layout: once is enough.
+constexpr int FRAME_MS = 16; // no screen shows more of the bar than that
+
+// Once is enough: pixels don't depend on the layout.
 static bool sectionPaintDone = false;
 
-// The working texture is loaded within the list: its pixels travel with it.
-static void compilePicture(unsigned list, const Picture& picture, GLint filter, float w, float h)
+static void paintPictures()
 {
-    glNewList(list, GL_COMPILE);
-    setColour(WHITE);
-    glBindTexture(GL_TEXTURE_2D, textureNames[7]);
-    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, filter);
-    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, filter);
-    glTexEnvi(GL_TEXTURE_ENV, GL_TEXTURE_ENV_MODE, GL_DECAL);
-    glTexImage2D(GL_TEXTURE_2D, 0, GL_RGB, picture.width, picture.height, 0, GL_RGB,
-                 GL_UNSIGNED_BYTE, picture.bytes.data());
-    glEnable(GL_TEXTURE_2D);
-    drawPicture({0.0f, 0.0f, w, h});
-    glDisable(GL_TEXTURE_2D);
-    glEndList();
-}
-
-static void loadSection(int section)
-{
-    if (!sectionPaintDone)
-        paintSection(section);
-    compilePicture(lists.sectionLists[section], sectionPixels[section], GL_LINEAR, BOARD_WIDTH,
-                   BOARD_HEIGHT);
-    loadingProgress.sections = section;
-    redrawNow();
-}
-
-static void loadCourse(int index)
-{
-    if (!sectionPaintDone)
-        paintCourse(index, fixedCourses[index]);
-    compilePicture(lists.courseLists[index], coursePixels[index], GL_NEAREST, layout.coursePicW,
-                   layout.coursePicH);
-    loadingProgress.courses = index + 1;
-    redrawNow();
-}
-
-static void loadPictureLists()
-{
+    int lastFrame = glutGet(GLUT_ELAPSED_TIME);
+    const auto showProgress = [&lastFrame] {
+        const int now = glutGet(GLUT_ELAPSED_TIME);
+        const bool last = loadingProgress.courses == FIXED_COURSE_COUNT;
+        if (!last && now - lastFrame < FRAME_MS)
+            return;
+        lastFrame = now;
+        redrawNow();
+    };
     loadingProgress = {};
-    glPixelStorei(GL_UNPACK_ALIGNMENT, 1);
-    for (int section = 0; section < SECTION_COUNT; ++section)
-        loadSection(section);
-    for (int index = 0; index < FIXED_COURSE_COUNT; ++index)
-        loadCourse(index);
+    for (int section = 0; section < SECTION_COUNT; ++section) {
+        paintSection(section);
+        loadingProgress.sections = section;
+        showProgress();
+    }
+    for (int index = 0; index < FIXED_COURSE_COUNT; ++index) {
+        paintCourse(index, fixedCourses[index]);
+        loadingProgress.courses = index + 1;
+        showProgress();
+    }
     sectionPaintDone = true;
 }
 
@@ -82,19 +56,9 @@ void onIdleLoad()
 {
     if (layout.viewW <= 0 || layout.viewH <= 0 || !sizeSettled())
         return;
-    if (gameState == STATE_LOADING)
-        loadPictureLists();
+    if (!sectionPaintDone)
+        paintPictures();
     glutIdleFunc(nullptr);
     gameState = STATE_MAIN_MENU;
     redrawNow();
-}
-
-void reloadPictures()
-{
-    if (gameState == STATE_LOADING || !sectionPaintDone)
-        return;
-    const GameState interrupted = gameState;
-    gameState = STATE_LOADING;
-    loadPictureLists();
-    gameState = interrupted;
 }

@@ -14,7 +14,3 @@ extern LoadingProgress loadingProgress;
 // The idle callback, until the stage is over: does all its work in one call, takes itself off and
 // goes to the main menu. Waits for a window with a size.
 void onIdleLoad();
-
-// Builds the lists of the pictures anew after a change of layout and goes back to the state the
-// program was in. Before the loading stage has run there is nothing to build anew.
-void reloadPictures();

@@ -150,9 +150,7 @@ static void compilePicture(unsigned list, int texture, GLint filter, float w, fl
                            const Crop& crop)
 {
     glNewList(list, GL_COMPILE);
-    beginTexture(texture, filter, GL_DECAL);
-    drawPicture({0.0f, 0.0f, w, h}, crop);
-    endTexture();
+    drawPictureOf(textureNames[texture], filter, {0.0f, 0.0f, w, h}, crop);
     glEndList();
 }
 
@@ -249,8 +247,6 @@ static void deleteAllLists()
     deleteLists(lists.pipList, 1);
     deleteLists(lists.scorecardList, 1);
     deleteLists(lists.scorecardInnerList, 1);
-    deleteLists(lists.sectionLists[0], lists.sectionLists.size());
-    deleteLists(lists.courseLists[0], lists.courseLists.size());
 }
 
 template <int N> static void reserveLists(Table<unsigned, N>& block)
@@ -274,8 +270,6 @@ static void reserveAllLists()
     lists.pipList = glGenLists(1);
     lists.scorecardList = glGenLists(1);
     lists.scorecardInnerList = glGenLists(1);
-    reserveLists(lists.sectionLists);
-    reserveLists(lists.courseLists);
     reserveLists(lists.pawnTurnedLists);
 }
 

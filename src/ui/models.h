@@ -18,14 +18,12 @@ struct DisplayLists {
     unsigned pipList = 0;
     unsigned scorecardList = 0;
     unsigned scorecardInnerList = 0;
-    Table<unsigned, 9> sectionLists{}; // filled while loading
-    Table<unsigned, 4> courseLists{};  // likewise; entry c is fixed course c
 };
 
 extern DisplayLists lists;
 
-// Deletes the lists of an earlier layout and compiles all of them but sections and courses, whose
-// numbers are only reserved. Needs a GL context, the layout and the textures.
+// Deletes the lists of an earlier layout and compiles them anew. Needs a GL context, the layout and
+// the textures.
 void buildDisplayLists();
 
 enum PawnShape { PAWN_FLAT = 0, PAWN_STANDING = 1 };

@@ -15,3 +15,14 @@ void drawPicture(const Rect& at, const Crop& crop)
     glVertex2f(at.x + at.w, at.y + at.h);
     glEnd();
 }
+
+void drawPictureOf(unsigned texture, int filter, const Rect& at, const Crop& crop)
+{
+    glBindTexture(GL_TEXTURE_2D, texture);
+    glEnable(GL_TEXTURE_2D);
+    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, filter);
+    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, filter);
+    glTexEnvi(GL_TEXTURE_ENV, GL_TEXTURE_ENV_MODE, GL_DECAL);
+    drawPicture(at, crop);
+    glDisable(GL_TEXTURE_2D);
+}

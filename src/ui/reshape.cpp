@@ -1,9 +1,9 @@
 #include "ui/reshape.h"
 
+#include "app/game_state.h"
 #include "app/host.h"
 #include "ui/layout.h"
 #include "ui/letters.h"
-#include "ui/loading.h"
 #include "ui/manual_pages.h"
 #include "ui/matrices.h"
 #include "ui/models.h"
@@ -17,10 +17,9 @@ static bool listsBuilt = false;
 static void buildAllLists()
 {
     prepareLetters();
-    glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
     buildDisplayLists();
-    reloadPictures();
-    redrawNow();
+    if (gameState != STATE_LOADING) // else GLUT does, as soon as it has reported the size
+        redrawNow();
     listsBuilt = true;
 }
 

@@ -6,13 +6,11 @@
 #include "ui/course_table.h"
 #include "ui/layout.h"
 #include "ui/matrices.h"
-#include "ui/models.h"
 #include "ui/places.h"
 #include "ui/text.h"
 #include "ui/texts.h"
+#include "ui/textures.h"
 #include "ui/widgets.h"
-
-#include <GL/gl.h>
 
 #include <algorithm>
 
@@ -22,7 +20,7 @@ static constexpr float FRAME_INSET = 6.0f;
 static void drawPreview()
 {
     useBoardLayer();
-    glCallList(lists.sectionLists[previewedSection()]);
+    drawSectionPicture(previewedSection(), {0.0f, 0.0f, BOARD_WIDTH, BOARD_HEIGHT});
     useScreenLayer();
 }
 

@@ -5,11 +5,11 @@
 #include "board/pictures.h"
 #include "ui/controls.h"
 #include "ui/layout.h"
-#include "ui/models.h"
 #include "ui/places.h"
 #include "ui/scale.h"
 #include "ui/text.h"
 #include "ui/texts.h"
+#include "ui/textures.h"
 #include "ui/widgets.h"
 
 #include <GL/gl.h>
@@ -32,7 +32,7 @@ static void drawCourse(int index)
     const Rect picture = coursePicture(index);
     glPushMatrix();
     glTranslatef(picture.x, picture.y, 0.0f);
-    glCallList(lists.courseLists[index]);
+    drawCoursePicture(index, {0.0f, 0.0f, picture.w, picture.h});
     glPopMatrix();
 
     if (index == courseScreens.courseHover)

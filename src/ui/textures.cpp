@@ -1,18 +1,22 @@
 #include "ui/textures.h"
 
 #include "board/pictures.h"
+#include "ui/picture_strip.h"
+#include "ui/widgets.h"
 
 #include <GL/gl.h>
 #include <GL/glu.h>
 
 #include <string>
 
-Table<unsigned, 8> textureNames{};
+Table<unsigned, 7> textureNames{};
 
 constexpr int RIDER_PICTURE_COUNT = 5;
 constexpr int FIRST_RIDER_TEXTURE = 1;
 constexpr int SCORECARD_TEXTURE = 6;
-constexpr int WORKING_TEXTURE = 7;
+
+static Table<unsigned, SECTION_COUNT> sectionTextures{};
+static Table<unsigned, FIXED_COURSE_COUNT> courseTextures{};
 
 static void buildTexture(int texture, const Picture& picture)
 {
@@ -29,7 +33,6 @@ static bool loadBoard()
     if (!loadPicture("board.dat", boardPicture, false))
         return false;
     buildTexture(0, boardPicture);
-    buildTexture(WORKING_TEXTURE, boardPicture);
     return true;
 }
 
@@ -68,4 +71,28 @@ bool loadTextures()
         return false;
     loadScorecard(scratch);
     return true;
+}
+
+static unsigned textureOf(unsigned& name, const Picture& picture)
+{
+    if (name == 0) {
+        glGenTextures(1, &name);
+        glBindTexture(GL_TEXTURE_2D, name);
+        glPixelStorei(GL_UNPACK_ALIGNMENT, 1);
+        glTexImage2D(GL_TEXTURE_2D, 0, GL_RGB, picture.width, picture.height, 0, GL_RGB,
+                     GL_UNSIGNED_BYTE, picture.bytes.data());
+    }
+    return name;
+}
+
+void drawSectionPicture(int section, const Rect& at)
+{
+    setColour(WHITE);
+    drawPictureOf(textureOf(sectionTextures[section], sectionPixels[section]), GL_LINEAR, at);
+}
+
+void drawCoursePicture(int index, const Rect& at)
+{
+    setColour(WHITE);
+    drawPictureOf(textureOf(courseTextures[index], coursePixels[index]), GL_NEAREST, at);
 }

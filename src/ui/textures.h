@@ -1,12 +1,17 @@
 #pragma once
 
 #include "app/table.h"
+#include "ui/rect.h"
 
-// 0 the board, 1 to 5 the riders, 6 the score sheet, 7 the working texture of section and course
-// pictures.
-extern Table<unsigned, 8> textureNames;
+// 0 the board, 1 to 5 the riders, 6 the score sheet.
+extern Table<unsigned, 7> textureNames;
 
 // Generates the names, reads the seven picture files of the current directory and builds their
 // textures. False if one of the first six can't be read; the reader has said why on the error
 // stream. A score sheet that can't be read shows whatever the buffer held.
 bool loadTextures();
+
+// Draws the picture of a section (0 to 8) or of a fixed course (0 to 3), which have been painted by
+// then. It becomes a texture when it is first looked at; most never are.
+void drawSectionPicture(int section, const Rect& at);
+void drawCoursePicture(int index, const Rect& at);

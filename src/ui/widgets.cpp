@@ -9,9 +9,21 @@
 constexpr float FIXED_ADVANCE = 8.0f;  // of a character in FONT_FIXED
 constexpr float UNDERLINE_DROP = 5.0f; // from the middle of a label to its underline
 
+static Colour currentColour = WHITE;
+
 void setColour(const Colour& colour, float brightness)
 {
-    glColor3f(colour.red * brightness, colour.green * brightness, colour.blue * brightness);
+    currentColour = {colour.red * brightness, colour.green * brightness, colour.blue * brightness};
+    glColor3f(currentColour.red, currentColour.green, currentColour.blue);
+}
+
+// Mesa puts shapes of one colour into a batch without it and shapes of several into one with it,
+// and compiles a program for either, which takes longer than all of the drawing. So the colour is
+// told within each of the shapes that most screens are made of.
+static void beginShape(GLenum mode)
+{
+    glBegin(mode);
+    glColor3f(currentColour.red, currentColour.green, currentColour.blue);
 }
 
 static void addCorners(float x, float y, float w, float h)
@@ -24,14 +36,14 @@ static void addCorners(float x, float y, float w, float h)
 
 void fillRect(float x, float y, float w, float h)
 {
-    glBegin(GL_QUADS);
+    beginShape(GL_QUADS);
     addCorners(x, y, w, h);
     glEnd();
 }
 
 void outlineRect(float x, float y, float w, float h)
 {
-    glBegin(GL_LINE_LOOP);
+    beginShape(GL_LINE_LOOP);
     addCorners(x, y, w, h);
     glEnd();
 }
@@ -46,7 +58,7 @@ static void drawAccessLine(float x, float y, std::string_view text, int accessIn
     const float before = static_cast<float>(textWidth(text.substr(0, index), FONT_BODY));
     const float width = static_cast<float>(textWidth(text.substr(index, 1), FONT_BODY));
 
-    glBegin(GL_LINES);
+    beginShape(GL_LINES);
     glVertex2f(x + before, y + UNDERLINE_DROP);
     glVertex2f(x + before + width - 1.0f, y + UNDERLINE_DROP);
     glEnd();
@@ -62,8 +74,8 @@ void drawButton(float x, float y, float w, float h, bool enabled, std::string_vi
     setColour(buttonGrey);
     fillRect(x, y, w, h);
     setColour(enabled ? BLACK : disabledGrey);
-    drawText(centreX, centreY, ALIGN_CENTRE, text);
     drawAccessLine(centreX + 1.0f - labelW * 0.5f, centreY, text, accessIndex);
+    drawText(centreX, centreY, ALIGN_CENTRE, text);
 }
 
 // Four triangles that reach in from the edges leave a cross of what lies below them.
