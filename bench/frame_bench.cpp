@@ -61,6 +61,7 @@ static void raceFrame(benchmark::State& state, int viewMode)
     goToThirdRound();
     if (view.viewMode != viewMode)
         toggleView();
+    drawWholeFrame();
     measureBesideFloor(state, drawWholeFrame, drawFloorFrame, passedSeconds);
 }
 

@@ -11,6 +11,7 @@
 #include "ui/letters.h"
 #include "ui/matrices.h"
 #include "ui/models.h"
+#include "ui/textures.h"
 #include "ui/widgets.h"
 
 #include <GL/gl.h>
@@ -139,7 +140,12 @@ static void drawWinnerOnPodium()
 static void drawPlane()
 {
     glDisable(GL_DEPTH_TEST);
-    glCallList(view.viewMode == VIEW_FLAT ? lists.boardList : lists.slantedBoardList);
+    if (view.viewMode == VIEW_FLAT) {
+        glCallList(lists.boardList);
+    } else {
+        buildBoardMipmaps();
+        glCallList(lists.slantedBoardList);
+    }
     if (gameState == STATE_PLACE_HUMAN)
         drawPlacingCursor();
 }

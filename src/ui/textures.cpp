@@ -12,18 +12,25 @@
 Table<unsigned, 7> textureNames{};
 
 constexpr int RIDER_PICTURE_COUNT = 5;
+constexpr int BOARD_TEXTURE = 0;
 constexpr int FIRST_RIDER_TEXTURE = 1;
 constexpr int SCORECARD_TEXTURE = 6;
 
 static Table<unsigned, SECTION_COUNT> sectionTextures{};
 static Table<unsigned, FIXED_COURSE_COUNT> courseTextures{};
 
-static void buildTexture(int texture, const Picture& picture)
+static GLenum formatOf(const Picture& picture)
 {
-    const GLenum format = picture.components == 4 ? GL_RGBA : GL_RGB;
-    glBindTexture(GL_TEXTURE_2D, textureNames[texture]);
-    gluBuild2DMipmaps(GL_TEXTURE_2D, picture.components, picture.width, picture.height, format,
-                      GL_UNSIGNED_BYTE, picture.bytes.data());
+    return picture.components == 4 ? GL_RGBA : GL_RGB;
+}
+
+// In its own size alone, which is a power of two.
+static void buildTexture(unsigned name, const Picture& picture)
+{
+    glBindTexture(GL_TEXTURE_2D, name);
+    glPixelStorei(GL_UNPACK_ALIGNMENT, 1);
+    glTexImage2D(GL_TEXTURE_2D, 0, static_cast<GLint>(formatOf(picture)), picture.width,
+                 picture.height, 0, formatOf(picture), GL_UNSIGNED_BYTE, picture.bytes.data());
 }
 
 static bool loadBoard()
@@ -32,7 +39,7 @@ static bool loadBoard()
     boardPicture.height = BOARD_PICTURE_HEIGHT;
     if (!loadPicture("board.dat", boardPicture, false))
         return false;
-    buildTexture(0, boardPicture);
+    buildTexture(textureNames[BOARD_TEXTURE], boardPicture);
     return true;
 }
 
@@ -44,7 +51,7 @@ static bool loadRiders(Picture& scratch)
         const std::string fileName = "cyclist" + std::to_string(i) + ".dat";
         if (!loadPicture(fileName.c_str(), scratch, true))
             return false;
-        buildTexture(FIRST_RIDER_TEXTURE + i, scratch);
+        buildTexture(textureNames[FIRST_RIDER_TEXTURE + i], scratch);
     }
     return true;
 }
@@ -58,7 +65,7 @@ static void loadScorecard(Picture& scratch)
         scratch.components = 3;
         scratch.bytes.resize(static_cast<std::size_t>(3 * scratch.width * scratch.height));
     }
-    buildTexture(SCORECARD_TEXTURE, scratch);
+    buildTexture(textureNames[SCORECARD_TEXTURE], scratch);
 }
 
 bool loadTextures()
@@ -73,14 +80,23 @@ bool loadTextures()
     return true;
 }
 
+void buildBoardMipmaps()
+{
+    static bool built = false;
+    if (built)
+        return;
+    built = true;
+    glBindTexture(GL_TEXTURE_2D, textureNames[BOARD_TEXTURE]);
+    gluBuild2DMipmaps(GL_TEXTURE_2D, boardPicture.components, boardPicture.width,
+                      boardPicture.height, formatOf(boardPicture), GL_UNSIGNED_BYTE,
+                      boardPicture.bytes.data());
+}
+
 static unsigned textureOf(unsigned& name, const Picture& picture)
 {
     if (name == 0) {
         glGenTextures(1, &name);
-        glBindTexture(GL_TEXTURE_2D, name);
-        glPixelStorei(GL_UNPACK_ALIGNMENT, 1);
-        glTexImage2D(GL_TEXTURE_2D, 0, GL_RGB, picture.width, picture.height, 0, GL_RGB,
-                     GL_UNSIGNED_BYTE, picture.bytes.data());
+        buildTexture(name, picture);
     }
     return name;
 }
