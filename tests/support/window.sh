@@ -215,6 +215,18 @@ untilChanged()
     until_ 5 "$1" looksOther "$before"
 }
 
+# In a race: presses keys and waits until they have acted. They act one after the other, and what the
+# last one, Tab, does is seen: the cards of the next team.
+press()
+{
+    local team
+    for team in {0..3}; do
+        ! teamIs "$team" || break
+    done
+    xdotool key "$@" Tab
+    until_ 10 "$* and Tab to act" teamIs $(((team + 1) % 4))
+}
+
 quitRace()
 {
     xdotool key q
