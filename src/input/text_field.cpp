@@ -17,13 +17,10 @@ static std::size_t place(const TextField& field)
     return static_cast<std::size_t>(std::clamp(field.cursor, 0, lengthOf(field)));
 }
 
+// What no longer fits falls off at the end, so that in a full field the last character is replaced.
 void typeCharacter(TextField field, char character)
 {
-    const bool overwrites = field.cursor == field.capacity - 1 && field.cursor < lengthOf(field);
-    if (overwrites)
-        field.text[place(field)] = character;
-    else
-        field.text.insert(place(field), 1, character);
+    field.text.insert(place(field), 1, character);
     field.text.resize(static_cast<std::size_t>(std::min(lengthOf(field), field.capacity)));
     moveTextCursor(field, 1);
 }
