@@ -1,39 +1,27 @@
-#include "app/game_state.h"
 #include "app/host.h"
 #include "app/settings.h"
-#include "app/view.h"
-#include "race/race_state.h"
 #include "screen/support/drawn_texts.h"
 #include "screen/support/player.h"
 #include "store/race_file.h"
-#include "support/fake_host.h"
-#include "support/own_folder.h"
 #include "ui/frame.h"
 #include "ui/layout.h"
-#include "ui/places.h"
 #include "ui/race_list.h"
 #include "ui/team_setup.h"
 #include "ui/texts.h"
 
-#include <GL/freeglut.h>
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <cstdlib>
-#include <filesystem>
 #include <fstream>
 
 namespace
 {
 
 using Messages = std::vector<std::string>;
+using TeamSetupTest = ScreenTest;
 
-// The main menu, in a folder of its own.
-class RaceListTest : public testing::Test
+class RaceListTest : public ScreenTest
 {
 protected:
-    void SetUp() override { startProgram(1280, 1024); }
-
     // A race of so many stages, each won by the team's first rider.
     static void writeRaceOf(const std::string& fileName, int team, int stages)
     {
@@ -58,9 +46,7 @@ protected:
     void choose(const std::string& fileName)
     {
         const auto& files = raceList.raceFileList;
-        const auto found = std::ranges::find(files, fileName);
-        ASSERT_NE(found, files.end()) << fileName;
-        player.click(place(static_cast<int>(found - files.begin())));
+        player.click(place(static_cast<int>(std::ranges::find(files, fileName) - files.begin())));
         ASSERT_EQ(raceSetup.raceFileName, fileName);
     }
 
@@ -72,18 +58,19 @@ protected:
         std::srand(1);
         player.hover(coursePicture(3));
         player.click(coursePicture(3));
-        while (gameState != STATE_FINAL_SCORECARD) {
-            if (gameState == STATE_ANIMATE)
-                ASSERT_TRUE(runTick());
-            else
-                player.key(gameState == STATE_ORDER_RESULT ? 'n' : 'o');
-        }
+        runComputerRace();
+        ASSERT_EQ(gameState, STATE_FINAL_SCORECARD);
         host.redraw = drawFrame;
         player.click(CONTROL_SHEET_QUIT);
     }
 
-    OwnFolder here;
-    Player player;
+    // The stages that a file holds.
+    static const std::vector<StageRecord>& stagesIn(const std::string& fileName)
+    {
+        raceSetup.raceStages.clear();
+        EXPECT_TRUE(readRace(fileName));
+        return raceSetup.raceStages;
+    }
 };
 
 } // namespace
@@ -99,10 +86,8 @@ TEST_F(RaceListTest, ANewRaceKeepsNothingOfTheOneLookedAtLast)
     player.type("Giro");
     player.click(CONTROL_TEAM_OK);
     raceAStage();
-    ASSERT_TRUE(readRace("Giro.race"));
-    EXPECT_EQ(raceSetup.raceStages.size(), 1u);
-    ASSERT_TRUE(readRace("Tour.race"));
-    EXPECT_EQ(raceSetup.raceStages.size(), 3u);
+    EXPECT_EQ(stagesIn("Giro.race").size(), 1u);
+    EXPECT_EQ(stagesIn("Tour.race").size(), 3u);
 }
 
 TEST_F(RaceListTest, ARaceThatGoesOnBehindASingleStageIsSaved)
@@ -114,9 +99,7 @@ TEST_F(RaceListTest, ARaceThatGoesOnBehindASingleStageIsSaved)
     choose("Tour.race");
     player.click(CONTROL_LIST_OK);
     raceAStage();
-    raceSetup.raceStages.clear();
-    ASSERT_TRUE(readRace("Tour.race"));
-    ASSERT_EQ(raceSetup.raceStages.size(), 4u);
+    ASSERT_EQ(stagesIn("Tour.race").size(), 4u);
     EXPECT_EQ(raceSetup.raceStages[2].slots[FINISH_SLOT], 8);
     EXPECT_EQ(raceSetup.raceStages[3].slots, race.resultSlots);
 }
@@ -136,10 +119,11 @@ TEST_F(RaceListTest, ColumnsAreTurnedAsLongAsThereAreMore)
     EXPECT_EQ(raceList.raceListPage, 1);
     player.click(place(79));
     EXPECT_EQ(raceSetup.raceFileName, "") << "nothing stands there";
-    player.click(place(60));
-    EXPECT_EQ(raceSetup.raceFileName, raceList.raceFileList[80]);
-    player.click(place(2));
-    EXPECT_EQ(raceSetup.raceFileName, raceList.raceFileList[22]);
+    for (const int entry : {60, 2}) {
+        player.click(place(entry));
+        EXPECT_EQ(raceSetup.raceFileName,
+                  raceList.raceFileList[static_cast<std::size_t>(entry + raceListRows)]);
+    }
 
     for (const auto& entry : std::filesystem::directory_iterator("."))
         if (entry.path() != "./R0.race")
@@ -151,17 +135,14 @@ TEST_F(RaceListTest, ColumnsAreTurnedAsLongAsThereAreMore)
 TEST_F(RaceListTest, TheRaceChosenIsYellowAndOpensAsItWasLeft)
 {
     raceSetup.teamName[2] = "Rockets";
-    race.riders[11].isHuman = race.riders[8].isHuman = 1;
+    makeHuman(2);
     writeRaceOf("Tour.race", 2, 3);
     writeRaceOf("Giro.race", 0, 1);
     startProgram(1280, 1024);
-    player.click({CONTROL_CONTINUE, CONTROL_LIST_OK, CONTROL_LIST_SCORECARD});
-    EXPECT_EQ(gameState, STATE_RACE_FILES) << "no race is chosen";
+    player.click(CONTROL_CONTINUE);
     choose("Tour.race");
-    for (const DrawnText& text : drawnTexts())
-        if (raceListFrame().contains(text.place.x, text.place.y)) {
-            EXPECT_EQ(text.colour == pixelOf(YELLOW), text.words == "Tour") << text.words;
-        }
+    for (const DrawnText& text : textsAt(raceListFrame()))
+        EXPECT_EQ(text.colour == pixelOf(YELLOW), text.words == "Tour") << text.words;
     EXPECT_EQ(raceSetup.standingsFileName, "Tour.csv");
     EXPECT_EQ(racePreview.teamName[2], "Rockets");
     EXPECT_EQ(raceSetup.teamName[2], "Germany") << "not yet";
@@ -175,7 +156,6 @@ TEST_F(RaceListTest, TheRaceChosenIsYellowAndOpensAsItWasLeft)
 
     choose("Tour.race");
     player.click(CONTROL_LIST_OK);
-    EXPECT_EQ(gameState, STATE_COURSE_SELECT);
     EXPECT_EQ(raceSetup.teamName[2], "Rockets");
     EXPECT_EQ(race.riders[11].isHuman, 1);
     EXPECT_EQ(raceSetup.raceStages.size(), 3u);
@@ -202,10 +182,8 @@ TEST_F(RaceListTest, AnyFileIsListedAndMayBeChosen)
     }
     // The long name ends within its column.
     const Rect frame = raceListFrame();
-    for (const DrawnText& text : drawnTexts())
-        if (frame.contains(text.place.x, text.place.y)) {
-            EXPECT_LT(text.place.x + text.place.w, frame.x + layout.raceListColW) << text.words;
-        }
+    for (const DrawnText& text : textsAt(frame))
+        EXPECT_LT(text.place.x + text.place.w, frame.x + layout.raceListColW) << text.words;
     EXPECT_EQ(shownFileName("Z\xC3\xBCrich"), "Z\xFCrich");
     EXPECT_EQ(shownFileName("Z\xFCrich"), "Z\xFCrich") << "no UTF-8: each byte a letter";
     EXPECT_EQ(shownFileName("a\nb\xC2\x85\x7F"), "a?b??");
@@ -227,11 +205,10 @@ TEST_F(RaceListTest, ARaceThatCantBeReadStaysOnTheList)
     EXPECT_EQ(raceSetup.raceStages.size(), 2u);
 }
 
-TEST_F(RaceListTest, ANewRaceNeedsANameThatIsNotTaken)
+TEST_F(TeamSetupTest, ANewRaceNeedsANameThatIsNotTaken)
 {
-    writeRaceOf("Tour 1.race", 0, 1);
+    writeRace("Tour 1.race");
     player.click({CONTROL_START, CONTROL_TEAM_OK});
-    ASSERT_EQ(gameState, STATE_SETUP_MESSAGE);
     EXPECT_EQ(teamSetup.setupMessages, Messages{"Enter a race name"});
     player.click(CONTROL_SETUP_MESSAGE_OK);
     player.click(raceNameBox());
@@ -255,7 +232,7 @@ TEST_F(RaceListTest, ANewRaceNeedsANameThatIsNotTaken)
     EXPECT_EQ(raceSetup.standingsFileName, "standings.csv");
 }
 
-TEST_F(RaceListTest, TheFieldsOfTheTeamSetupAreGoneThroughBothWays)
+TEST_F(TeamSetupTest, FieldsAreGoneThroughBothWays)
 {
     player.click(CONTROL_START);
     for (const auto& [key, held, field] : {std::tuple{'\t', GLUT_ACTIVE_SHIFT, 4},
@@ -271,8 +248,37 @@ TEST_F(RaceListTest, TheFieldsOfTheTeamSetupAreGoneThroughBothWays)
     EXPECT_EQ(teamSetup.teamActiveField, 3) << "the race has no name any more";
 }
 
+// A box is twelve characters wide.
+TEST_F(TeamSetupTest, ANameIsTypedAtTheCursorAndLosesWhatIsTooLong)
+{
+    player.click(CONTROL_START);
+    const std::string& name = raceSetup.teamName[0];
+    const auto expectAfter = [&](std::string_view keys, int special, const char* text, int cursor) {
+        player.type(keys);
+        player.special(special);
+        EXPECT_EQ(name, text) << keys;
+        EXPECT_EQ(teamSetup.teamCursor, cursor) << name;
+    };
+    const auto clickCharacter = [&](float index) {
+        const Rect box = teamNameBox(0);
+        player.click(Spot(box.x + (index + 0.5f) * box.w / 12.0f, box.y + 5.0f));
+    };
+    constexpr int NO_KEY = GLUT_KEY_F1;
+    expectAfter("\177\177\177\177\177\177\177\177\b", NO_KEY, "", 0);
+    expectAfter("Rockets", GLUT_KEY_HOME, "Rockets", 0);
+    expectAfter("The -!", NO_KEY, "The -Rockets", 5);
+    expectAfter("x", GLUT_KEY_END, "The -xRocket", 11);
+    expectAfter("abc", NO_KEY, "The -xRockec", 11); // on the last place each overwrites
+    expectAfter("\b\177\177", GLUT_KEY_LEFT, "The -xRock", 9);
+    expectAfter("\b\177", GLUT_KEY_RIGHT, "The -xRo", 8);
+    for (const auto& [index, cursor] : {std::pair{2.0f, 2}, {8.0f, 8}, {9.0f, 0}}) {
+        clickCharacter(index);
+        expectAfter("", NO_KEY, "The -xRo", cursor);
+    }
+}
+
 // The cursor stood behind a longer default name when the language was changed.
-TEST_F(RaceListTest, TheCursorStaysInAShorterName)
+TEST_F(TeamSetupTest, TheCursorStaysInAShorterName)
 {
     player.click(CONTROL_START);
     teamSetup.teamActiveField = 1;

@@ -63,11 +63,6 @@ std::string layOut(std::string_view text, int wrapWidth, float lines = 99, std::
     return placed;
 }
 
-std::size_t endOfPage(std::string_view text, int wrapWidth, float linesPerPage)
-{
-    return layOutManualPage(text, 0, wrapWidth, linesPerPage).end;
-}
-
 // In FONT_TITLE "ab" takes 20 pixels and a blank 5.
 TEST(Wrap, BreaksAtBlanksAndWordsThatAreWiderThanALine)
 {
@@ -83,13 +78,22 @@ TEST(Wrap, BreaksAtBlanksAndWordsThatAreWiderThanALine)
 
 TEST(Pages, StartAtWhatTheyDrawFirst)
 {
-    EXPECT_EQ(endOfPage("a<l>b<l>c", 99, 1), 8u);     // behind the tag
-    EXPECT_EQ(endOfPage("a<l>b<2>c</2>", 99, 1), 5u); // at the heading's tag
-    EXPECT_EQ(endOfPage("a<2>b</2>c", 99, 2), 5u);    // at the end of a heading
-    EXPECT_EQ(endOfPage("ab ab ab", 20, 1), 6u);      // at the word
-    EXPECT_EQ(endOfPage("ab ab  ", 20, 1), 7u);       // no page of blanks alone
-    // The heading's own line stands on the page before.
-    EXPECT_EQ(layOut("a<2>b</2>c", 99, 2, 5), "/1/c@0");
+    struct Case {
+        std::string_view text;
+        int wrapWidth;
+        float lines;
+        std::size_t end;
+        const char* where;
+    };
+    constexpr Case cases[] = {{"a<l>b<l>c", 99, 1, 8, "behind the tag"},
+                              {"a<l>b<2>c</2>", 99, 1, 5, "at the heading's tag"},
+                              {"a<2>b</2>c", 99, 2, 5, "at the end of a heading"},
+                              {"ab ab ab", 20, 1, 6, "at the word"},
+                              {"ab ab  ", 20, 1, 7, "no page of blanks alone"}};
+    for (const Case& c : cases)
+        EXPECT_EQ(layOutManualPage(c.text, 0, c.wrapWidth, c.lines).end, c.end) << c.where;
+    EXPECT_EQ(layOut("a<2>b</2>c", 99, 2, 5), "/1/c@0")
+        << "the heading's line is the page before's";
 }
 
 // Whatever the size of the page, each letter stands on exactly one page and within it.
@@ -118,30 +122,17 @@ TEST(Pages, LoseNothingAndEndForEverySize)
         }
 }
 
-constexpr Table<const Language*, LANGUAGE_COUNT> ALL = {&GERMAN, &ENGLISH, &FRENCH, &DUTCH};
-
-class TextsTest : public testing::Test
+void choose(int language)
 {
-protected:
-    void SetUp() override { raceSetup.teamName = {}; }
-
-    void TearDown() override
-    {
-        settings = {};
-        loadTexts();
-    }
-
-    static void choose(int language)
-    {
-        settings.language = language;
-        loadTexts();
-    }
-};
+    settings.language = language;
+    loadTexts();
+}
 
 using Names = Table<std::string, TEAM_COUNT>;
 
-TEST_F(TextsTest, DefaultTeamNamesFollowTheLanguageAndTypedOnesStay)
+TEST(TextsTest, DefaultTeamNamesFollowTheLanguageAndTypedOnesStay)
 {
+    raceSetup.teamName = {};
     choose(LANGUAGE_ENGLISH);
     EXPECT_EQ(raceSetup.teamName, (Names{"Belgium", "Netherlands", "Germany", "France"}));
 
@@ -154,7 +145,7 @@ TEST_F(TextsTest, DefaultTeamNamesFollowTheLanguageAndTypedOnesStay)
     EXPECT_EQ(texts.exit, "Fin");
 }
 
-TEST_F(TextsTest, AreLatin1)
+TEST(TextsTest, AreLatin1)
 {
     choose(LANGUAGE_GERMAN);
     EXPECT_EQ(texts.mainMenuTitle, "Hauptmen\xFC");
@@ -163,7 +154,7 @@ TEST_F(TextsTest, AreLatin1)
     EXPECT_EQ(latin1("cut short \xC3"), "cut short ?");
 }
 
-TEST_F(TextsTest, HaveTheirMarksAndJoiningBlanksInEveryLanguage)
+TEST(TextsTest, HaveTheirMarksAndJoiningBlanksInEveryLanguage)
 {
     for (int language = 0; language < LANGUAGE_COUNT; ++language) {
         choose(language);
@@ -188,9 +179,9 @@ void expectDrawable(std::string_view text, Font font)
     }
 }
 
-TEST_F(TextsTest, EveryLetterHasAGlyphInItsFont)
+TEST(TextsTest, EveryLetterHasAGlyphInItsFont)
 {
-    for (const Language* language : ALL) {
+    for (const Language* language : {&GERMAN, &ENGLISH, &FRENCH, &DUTCH}) {
         for (const TextEntry& entry : language->words)
             expectDrawable(latin1(entry.words), FONT_BODY);
         for (const std::string_view name : language->teamNames) {
