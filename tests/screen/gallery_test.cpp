@@ -15,7 +15,6 @@
 
 #include <cstdlib>
 #include <fstream>
-#include <set>
 
 // Every scene in every language. On every monitor and in every window down to 640 by 480 each
 // control lies in the drawing area, clear of the others that act, and holds its label; and from 800
@@ -25,27 +24,11 @@
 namespace
 {
 
-struct Shape {
-    int width, height;
-};
-
-// clang-format off
-constexpr Shape SHAPES[] = {
-    // 4:3 and 5:4
-    {640, 480}, {800, 600}, {1024, 768}, {1152, 864}, {1280, 960}, {1280, 1024}, {1400, 1050}, {1600, 1200},
-    {2048, 1536}, {2560, 2048},
-    // 16:10
-    {1280, 800}, {1440, 900}, {1680, 1050}, {1920, 1200}, {2560, 1600}, {2880, 1800}, {3072, 1920}, {3840, 2400},
-    // 16:9
-    {1024, 600}, {1280, 720}, {1360, 768}, {1366, 768}, {1536, 864}, {1600, 900}, {1920, 1080}, {2048, 1152},
-    {2560, 1440}, {3200, 1800}, {3840, 2160}, {5120, 2880},
-    // wider
-    {2560, 1080}, {3440, 1440}, {3840, 1600}, {3840, 1080}, {5120, 1440}, {5120, 2160},
-    // 3:2, square, upright, windows
-    {2160, 1440}, {2256, 1504}, {3000, 2000}, {1920, 1920}, {1080, 1920}, {1200, 1920}, {1440, 2560}, {2160, 3840},
-    {900, 640}, {1001, 777}, {777, 1001},
-};
-// clang-format on
+// Heights of windows, the smallest and those of the usual monitors at their scales. The drawing
+// area has the same shape in each, and everything else follows from it.
+constexpr int HEIGHTS[] = {480,  501,  512,  533,  540,  576,  600,  621,  640,  666,  682,  720,
+                           752,  768,  777,  800,  864,  900,  960,  1000, 1024, 1050, 1080, 1152,
+                           1200, 1440, 1504, 1600, 1728, 1800, 1920, 2048, 2160, 2400, 2880};
 
 constexpr const char* LANGUAGE_LETTERS[] = {"de", "en", "fr", "nl"};
 
@@ -165,30 +148,10 @@ void setWordyScene(Scene scene, int language)
         teamSetup.setupMessages.back() = withName(texts.raceNameExists, "WWWWWWWWWWWW");
 }
 
-// Takes over a window's drawing area, on a screen too small for painting to take long. False if it
-// has been seen, since all else follows from it.
-bool layOut(const Shape& shape, int times, std::set<std::pair<int, int>>& seen)
-{
-    desktopScale = times;
-    takeWindowSize(shape.width, shape.height);
-    if (logicalWindowW() < 640 || logicalWindowH() < 480)
-        return false;
-    settings = {};
-    ratioChosenByProgram = false;
-    computeLayout(logicalWindowW(), logicalWindowH());
-    EXPECT_NEAR(aspectFix(), 1.0f, 0.003f);
-    EXPECT_LE(layout.viewX + layout.viewW, layout.windowW);
-    EXPECT_LE(layout.viewY + layout.viewH, layout.windowH);
-    if (!seen.insert({layout.viewW, layout.viewH}).second)
-        return false;
-    paginateManual();
-    computeMatrices();
-    return true;
-}
-
 void expectEverythingInItsPlace(Scene scene, int language)
 {
     setWordyScene(scene, language);
+    paginateManual();
     expectControlsInTheirPlaces();
     if (layout.viewH < 600)
         return;
@@ -225,21 +188,18 @@ using Gallery = ScreenTest;
 
 TEST_F(Shapes, EverythingHasItsRoomOnEveryMonitor)
 {
-    startProgram(64, 48);
-    std::set<std::pair<int, int>> areas;
-    for (const Shape& shape : SHAPES)
-        for (const int times : {1, 2, 3}) {
-            if (!layOut(shape, times, areas))
-                continue;
-            for (const Scene scene : everyScene())
-                for (int language = 0; language < LANGUAGE_COUNT; ++language) {
-                    SCOPED_TRACE(tell(drawingArea()) + " " + nameOf(scene) + " " +
-                                 LANGUAGE_LETTERS[language]);
-                    expectEverythingInItsPlace(scene, language);
-                }
-        }
-    desktopScale = 0;
-    EXPECT_GT(areas.size(), 20u);
+    resizeScreen(64, 48); // so that painting takes no time
+    for (const int height : HEIGHTS) {
+        takeWindowSize(height * 5 / 4, height);
+        computeLayout(height * 5 / 4, height);
+        computeMatrices();
+        for (const Scene scene : everyScene())
+            for (int language = 0; language < LANGUAGE_COUNT; ++language) {
+                SCOPED_TRACE(std::to_string(height) + " " + nameOf(scene) + " " +
+                             LANGUAGE_LETTERS[language]);
+                expectEverythingInItsPlace(scene, language);
+            }
+    }
 }
 
 // On a screen of the drawing area's shape there are no bars: without anybody to look at the

@@ -1,5 +1,7 @@
+#include "app/settings.h"
 #include "board/designer.h"
 #include "screen/support/player.h"
+#include "screen/support/scenes.h"
 #include "support/scripted_rand.h"
 #include "ui/layout.h"
 
@@ -28,6 +30,11 @@ TEST_F(Mouse, TheSecondHalfOfADoubleClickIsDroppedWhereAnotherControlHasComeUp)
     player.pace = 90;
     player.click({CONTROL_MANUAL_OK, CONTROL_START});
     EXPECT_EQ(gameState, STATE_TEAM_SETUP) << "a quick click elsewhere is another one";
+
+    setScene(Scene::COUNTERCHECK, LANGUAGE_ENGLISH);
+    player.pace = 1000;
+    player.doubleClick(CONTROL_COUNTERCHECK_OK);
+    EXPECT_EQ(race.currentRider, 3) << "the next rider's has to be read";
 }
 
 TEST_F(Mouse, ThrowsForTheOrderAreAsQuickAsTheHand)

@@ -173,57 +173,6 @@ TEST_F(RaceWords, RidersOffTheBoardAreDimAndFinishersGone)
     }
 }
 
-// The dialogs that come up in a race, from the question to what follows from the answer.
-
-TEST_F(RaceWords, DopingIsAskedForTakenAndLaidInAPlace)
-{
-    setEnglishScene(Scene::TURN);
-    player.type("dn");
-    EXPECT_EQ(race.dopingNumber[0], -1);
-    player.click({CONTROL_DOPING, CONTROL_DOPING_YES, CONTROL_DOPING_NUMBER_OK});
-    player.click(dicePlace(0));
-    EXPECT_EQ(race.playedCards[0], DOPING_CARD) << "it can't be taken back";
-    player.click({CONTROL_BREAKAWAY, CONTROL_DOPING});
-    EXPECT_EQ(race.breakaway, 1);
-    EXPECT_EQ(gameState, STATE_TURN) << "once a stage";
-}
-
-TEST_F(RaceWords, EachRiderCaughtIsCheckedAndTheStageEnds)
-{
-    setEnglishScene(Scene::DOPING_DRAW);
-    race.dopingNumber = filled<int, RIDER_COUNT>(-1);
-    race.dopingNumber[3] = 1;
-    race.dopingNumber[9] = 3;
-    race.dopingNumber[12] = 5; // neither of the two drawn
-    const ScriptedRand dice{0, 4};
-    player.click(CONTROL_DOPING_DRAW_OK);
-    EXPECT_EQ(race.currentRider, 3);
-    player.doubleClick(CONTROL_COUNTERCHECK_OK);
-    EXPECT_EQ(gameState, STATE_DOPING_COUNTERCHECK) << "the next one has to be read";
-    EXPECT_EQ(race.currentRider, 9);
-    player.key('o');
-    EXPECT_EQ(gameState, STATE_FINAL_SCORECARD);
-    EXPECT_EQ(race.riders[3].disqualified, 0) << "his own number acquits him";
-    EXPECT_EQ(race.riders[9].disqualified, 1);
-}
-
-// As long as the folder can't be written the question stays; the stage isn't lost either way.
-TEST_F(RaceWords, ARaceThatCantBeSavedIsTriedAgainOrGivenUp)
-{
-    setEnglishScene(Scene::SAVE_FAILED);
-    player.click(CONTROL_RETRY);
-    EXPECT_EQ(gameState, STATE_SAVE_FAILED);
-    std::filesystem::create_directory("no such folder here");
-    player.click(CONTROL_RETRY);
-    EXPECT_EQ(gameState, STATE_FINAL_SCORECARD);
-    EXPECT_TRUE(std::filesystem::exists(raceSetup.raceFileName));
-
-    setEnglishScene(Scene::SAVE_FAILED);
-    player.click(CONTROL_ABORT);
-    EXPECT_EQ(gameState, STATE_FINAL_SCORECARD);
-    EXPECT_EQ(raceSetup.raceStages.size(), 2u);
-}
-
 // A card has words in each language; those for which there is no title show what they do.
 TEST_F(RaceWords, EveryEventCardHasThemInTheLanguage)
 {
