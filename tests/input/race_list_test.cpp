@@ -1,4 +1,3 @@
-#include "app/host.h"
 #include "app/settings.h"
 #include "screen/support/drawn_texts.h"
 #include "screen/support/player.h"
@@ -10,7 +9,6 @@
 #include "ui/texts.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <fstream>
 
 namespace
@@ -22,13 +20,9 @@ using TeamSetupTest = ScreenTest;
 class RaceListTest : public ScreenTest
 {
 protected:
-    // A race of so many stages, each won by the team's first rider.
-    static void writeRaceOf(const std::string& fileName, int team, int stages)
+    static void writeRaceOf(const std::string& fileName, std::size_t stages)
     {
-        StageRecord record;
-        record.slots = filled<int, RESULT_SLOT_COUNT>(-1);
-        record.slots[FINISH_SLOT] = team * RIDERS_PER_TEAM;
-        raceSetup.raceStages.assign(static_cast<std::size_t>(stages), record);
+        raceSetup.raceStages.resize(stages);
         writeRace(fileName);
         raceSetup.raceStages.clear();
     }
@@ -49,60 +43,9 @@ protected:
         player.click(place(static_cast<int>(std::ranges::find(files, fileName) - files.begin())));
         ASSERT_EQ(raceSetup.raceFileName, fileName);
     }
-
-    // From the team setup over the last course to the end of the stage, of computers alone.
-    void raceAStage()
-    {
-        settings.stepDistance = 999.0f;
-        host.redraw = nullptr; // nobody looks
-        std::srand(1);
-        player.hover(coursePicture(3));
-        player.click(coursePicture(3));
-        runComputerRace();
-        ASSERT_EQ(gameState, STATE_FINAL_SCORECARD);
-        host.redraw = drawFrame;
-        player.click(CONTROL_SHEET_QUIT);
-    }
-
-    // The stages that a file holds.
-    static const std::vector<StageRecord>& stagesIn(const std::string& fileName)
-    {
-        raceSetup.raceStages.clear();
-        EXPECT_TRUE(readRace(fileName));
-        return raceSetup.raceStages;
-    }
 };
 
 } // namespace
-
-// The results of a race are its own: neither those of the race last looked at, nor lost.
-TEST_F(RaceListTest, ANewRaceKeepsNothingOfTheOneLookedAtLast)
-{
-    writeRaceOf("Tour.race", 2, 3);
-    player.click(CONTROL_CONTINUE);
-    choose("Tour.race");
-    player.click({CONTROL_LIST_SCORECARD, CONTROL_SHEET_OK, CONTROL_LIST_BACK, CONTROL_START});
-    player.click(raceNameBox());
-    player.type("Giro");
-    player.click(CONTROL_TEAM_OK);
-    raceAStage();
-    EXPECT_EQ(stagesIn("Giro.race").size(), 1u);
-    EXPECT_EQ(stagesIn("Tour.race").size(), 3u);
-}
-
-TEST_F(RaceListTest, ARaceThatGoesOnBehindASingleStageIsSaved)
-{
-    writeRaceOf("Tour.race", 2, 3);
-    player.click({CONTROL_START, CONTROL_SINGLE_STAGE, CONTROL_TEAM_OK});
-    raceAStage();
-    player.click(CONTROL_CONTINUE);
-    choose("Tour.race");
-    player.click(CONTROL_LIST_OK);
-    raceAStage();
-    ASSERT_EQ(stagesIn("Tour.race").size(), 4u);
-    EXPECT_EQ(raceSetup.raceStages[2].slots[FINISH_SLOT], 8);
-    EXPECT_EQ(raceSetup.raceStages[3].slots, race.resultSlots);
-}
 
 TEST_F(RaceListTest, ColumnsAreTurnedAsLongAsThereAreMore)
 {
@@ -136,9 +79,10 @@ TEST_F(RaceListTest, TheRaceChosenIsYellowAndOpensAsItWasLeft)
 {
     raceSetup.teamName[2] = "Rockets";
     makeHuman(2);
-    writeRaceOf("Tour.race", 2, 3);
-    writeRaceOf("Giro.race", 0, 1);
+    writeRaceOf("Tour.race", 3);
+    writeRaceOf("Giro.race", 1);
     startProgram(1280, 1024);
+    raceSetup.multiStage = false; // raced last
     player.click(CONTROL_CONTINUE);
     choose("Tour.race");
     for (const DrawnText& text : textsAt(raceListFrame()))
@@ -158,6 +102,7 @@ TEST_F(RaceListTest, TheRaceChosenIsYellowAndOpensAsItWasLeft)
     player.click(CONTROL_LIST_OK);
     EXPECT_EQ(raceSetup.teamName[2], "Rockets");
     EXPECT_EQ(race.riders[11].isHuman, 1);
+    EXPECT_TRUE(raceSetup.multiStage);
     EXPECT_EQ(raceSetup.raceStages.size(), 3u);
     player.click(CONTROL_COURSE_BACK);
     EXPECT_EQ(gameState, STATE_RACE_FILES);
@@ -193,7 +138,7 @@ TEST_F(RaceListTest, AnyFileIsListedAndMayBeChosen)
 // To go on without its stages would overwrite them.
 TEST_F(RaceListTest, ARaceThatCantBeReadStaysOnTheList)
 {
-    writeRaceOf("Tour.race", 0, 2);
+    writeRaceOf("Tour.race", 2);
     player.click(CONTROL_CONTINUE);
     choose("Tour.race");
     std::filesystem::rename("Tour.race", "away");
@@ -220,8 +165,10 @@ TEST_F(TeamSetupTest, ANewRaceNeedsANameThatIsNotTaken)
     player.click(CONTROL_TEAM_OK);
     EXPECT_EQ(gameState, STATE_SETUP_MESSAGE) << "a link of that name is in the way, too";
     std::filesystem::remove("Tour 1\xC3\xBC.race");
+    raceSetup.raceStages.resize(3); // of a race looked at on the list
     player.click({CONTROL_SETUP_MESSAGE_OK, CONTROL_EVENT_CARDS, CONTROL_TEAM_OK});
     EXPECT_FALSE(raceSetup.eventCardsOn);
+    EXPECT_TRUE(raceSetup.raceStages.empty());
     EXPECT_EQ(gameState, STATE_COURSE_SELECT);
     EXPECT_EQ(raceSetup.raceFileName, "Tour 1\xC3\xBC.race") << "file names are UTF-8";
     EXPECT_EQ(raceSetup.standingsFileName, "Tour 1\xC3\xBC.csv");

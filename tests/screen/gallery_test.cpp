@@ -26,9 +26,9 @@ namespace
 
 // Heights of windows, the smallest and those of the usual monitors at their scales. The drawing
 // area has the same shape in each, and everything else follows from it.
-constexpr int HEIGHTS[] = {480,  501,  512,  533,  540,  576,  600,  621,  640,  666,  682,  720,
-                           752,  768,  777,  800,  864,  900,  960,  1000, 1024, 1050, 1080, 1152,
-                           1200, 1440, 1504, 1600, 1728, 1800, 1920, 2048, 2160, 2400, 2880};
+constexpr int HEIGHTS[] = {480, 501,  512,  533,  540,  576,  600,  621,  640,
+                           666, 682,  720,  752,  768,  777,  800,  864,  900,
+                           960, 1000, 1024, 1050, 1080, 1200, 1440, 2160, 2880};
 
 constexpr const char* LANGUAGE_LETTERS[] = {"de", "en", "fr", "nl"};
 
@@ -142,6 +142,8 @@ void setWordyScene(Scene scene, int language)
     setScene(scene, language);
     if (scene == Scene::DOPING_DRAW)
         race.dopingNumber = filled<int, RIDER_COUNT>(3);
+    if (scene == Scene::SCORECARD || scene == Scene::GENERAL)
+        view.exportStatus = EXPORT_FAILED;
     if (scene == Scene::SAVE_FAILED)
         raceSetup.raceFileName = std::string(20, 'W') + " " + std::string(200, 'W');
     if (scene == Scene::SETUP_MESSAGE && layout.viewW >= 1024)

@@ -1,11 +1,9 @@
-#include "app/settings.h"
 #include "play/overlays.h"
 #include "screen/support/drawn_texts.h"
 #include "screen/support/player.h"
 #include "ui/frame.h"
 #include "ui/layout.h"
 #include "ui/score_pages.h"
-#include "ui/texts.h"
 
 // What the score sheet shows, and how it is turned over.
 
@@ -124,20 +122,6 @@ TEST_F(Scorecard, PagesTurnAsFarAsThereAreStages)
     EXPECT_TRUE(at(1)) << "the last one there is";
 }
 
-TEST_F(Scorecard, DutchGeneralHasTheLetterOfQuitWhereThereIsNone)
-{
-    settings.language = LANGUAGE_DUTCH;
-    loadTexts();
-    player.key('t');
-    EXPECT_EQ(gameState, STATE_SCORECARD);
-    EXPECT_TRUE(view.scorecardGeneral);
-    view.scorecardGeneral = false;
-    gameState = STATE_FINAL_SCORECARD;
-    player.key('t');
-    EXPECT_EQ(gameState, STATE_MAIN_MENU);
-    EXPECT_FALSE(view.scorecardGeneral);
-}
-
 TEST_F(Scorecard, OkForgetsTheMessageAndLetsTheMoveGoOn)
 {
     player.key('x');
@@ -160,21 +144,4 @@ TEST_F(Scorecard, SprintPawnsOfAFinishedStageAreThoseOfFinishers)
     EXPECT_EQ(sprintPawn(), pixelOf(teamColour[0]));
     view.scorecardStage = 0;
     EXPECT_NE(sprintPawn(), pixelOf(teamColour[0]));
-}
-
-TEST_F(Scorecard, TheMessageOfTheExportCoversNoResultAndNoButton)
-{
-    for (const auto& [width, height] : {std::pair{1280, 1024}, {1920, 1080}, {1024, 768}})
-        for (const bool general : {false, true}) {
-            resizeScreen(width, height);
-            view.scorecardGeneral = general;
-            view.exportStatus = EXPORT_FAILED;
-            const float top = general ? 1010.0f : 1324.0f;
-            Rect room = onSheet(0.0f, top, 1072.0f, top);
-            room.h = placeOf(CONTROL_EXPORT).y - room.y - 9.0f;
-            std::vector<DrawnText> lines = textsAt(room);
-            std::erase_if(
-                lines, [](const DrawnText& text) { return text.colour != pixelOf(FAILURE_RED); });
-            EXPECT_EQ(lines.size(), 2u) << width << general;
-        }
 }
