@@ -29,24 +29,17 @@ Pixel boardPixel(float x, float y)
 double distanceFromPicture(const Image& image, bool mirrored, bool upsideDown)
 {
     double sum = 0.0;
-    int count = 0;
-    for (float y = 20.0f; y < BOARD_HEIGHT; y += 17.0f) {
-        for (float x = 20.0f; x < BOARD_WIDTH; x += 23.0f) {
+    // Of the middle, since the perspective view cuts corners of the board off.
+    for (float y = 0.3f * BOARD_HEIGHT; y < 0.7f * BOARD_HEIGHT; y += 7.0f)
+        for (float x = 0.2f * BOARD_WIDTH; x < 0.8f * BOARD_WIDTH; x += 13.0f) {
             const ScreenPoint at = seenAt(x, y);
-            // The perspective view cuts corners of the board off.
-            if (at.x < layout.viewX + static_cast<int>(layout.boardViewX) + 2 || at.y < 20 ||
-                at.x > layout.viewX + static_cast<int>(layout.boardViewX + layout.boardViewW) - 2 ||
-                at.y > static_cast<int>(layout.hudY) - 10)
-                continue;
             const Pixel seen = image.at(at.x, at.y);
             const Pixel painted = boardPixel(mirrored ? BOARD_WIDTH - 1.0f - x : x,
                                              upsideDown ? BOARD_HEIGHT - 1.0f - y : y);
             sum += std::abs(seen.red - painted.red) + std::abs(seen.green - painted.green) +
                    std::abs(seen.blue - painted.blue);
-            ++count;
         }
-    }
-    return sum / count;
+    return sum;
 }
 
 void expectPictureInPlace()
@@ -104,8 +97,6 @@ TEST_F(Frame, LooksTheSameWheneverItIsPainted)
     const Image flat = screenshot();
     player.click(CONTROL_VIEW);
     const Image perspective = screenshot();
-    redrawNow();
-    EXPECT_TRUE(screenshot() == perspective);
     player.click({CONTROL_QUIT, CONTROL_QUIT_NO});
     EXPECT_TRUE(screenshot() == perspective);
     player.click(CONTROL_VIEW);
@@ -140,15 +131,18 @@ TEST_F(Frame, TheRiderOnTurnIsSeenAtEveryTick)
 
 TEST_F(Frame, TheCursorIsWhiteOnAFreeSquareAndRedOnATakenOne)
 {
-    for (const std::string_view text : {ONE_LAP, FROM_START_2}) {
+    struct Case {
+        std::string_view text;
+        float x, y; // near the cursor's edge
+    };
+    for (const auto& [text, x, y] :
+         {Case{ONE_LAP, 970.0f, 166.0f}, Case{FROM_START_2, 676.0f, 1019.0f}}) {
         startRaceOn(text);
         race.currentRider = 5;
         gameState = STATE_PLACE_HUMAN;
         race.placingRow = 1;
         race.placingLane = firstStartLane() + 1;
-        const ScreenPoint at = text == ONE_LAP
-                                   ? seenAt(1117.0f - 1.5f * 98.25f, 210.0f - 1.2f * 36.6f)
-                                   : seenAt(1.5f * 99.0f + 528.0f, 1.2f * 37.0f + 975.0f);
+        const ScreenPoint at = seenAt(x, y);
         redrawNow();
         EXPECT_EQ(screenshot().at(at.x, at.y), pixelOf(WHITE)) << text;
 
@@ -192,16 +186,14 @@ TEST_F(Frame, ARiderStandsInFrontOfTheOneBehindHimUnderEveryCamera)
             const Image backAlone = seenWith(camera, {back});
             const Image both = seenWith(camera, {front, back});
             int shared = 0;
-            int wrong = 0;
-            for (int y = 0; y < nobody.height; ++y)
-                for (int x = 0; x < nobody.width; ++x) {
-                    if (frontAlone.at(x, y) == nobody.at(x, y))
-                        continue;
-                    shared += backAlone.at(x, y) != nobody.at(x, y);
-                    wrong += both.at(x, y) != frontAlone.at(x, y);
+            int hidden = 0;
+            for (std::size_t i = 0; i < nobody.bytes.size(); ++i)
+                if (frontAlone.bytes[i] != nobody.bytes[i]) {
+                    shared += backAlone.bytes[i] != nobody.bytes[i];
+                    hidden += both.bytes[i] != frontAlone.bytes[i];
                 }
-            EXPECT_GT(shared, 20) << camera;
-            EXPECT_EQ(wrong, 0) << camera;
+            EXPECT_GT(shared, 60) << camera;
+            EXPECT_EQ(hidden, 0) << camera;
         }
 }
 

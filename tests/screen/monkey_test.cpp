@@ -35,28 +35,21 @@ public:
     {
         player.pace = below(1000);
         player.held = below(4) == 0 ? below(8) : 0;
-        const std::vector<Rect> places = everyPlace();
-        switch (below(12)) {
-        case 0:
-        case 1:
-        case 2:
-        case 3:
-            return doTheSensibleThing();
-        case 4:
-            return player.key(below(10) == 0 ? static_cast<char>(below(256)) : oneOf(KEYS));
-        case 5:
-            for (int times = below(4); times >= 0; --times)
-                player.special(anySpecialKey());
-            return;
-        case 6:
-            return below(2) ? player.dragTo(anywhere()) : player.hover(anywhere());
-        case 7:
-            return clickOn(anywhere());
-        case 8:
-            return below(40) == 0 ? resize() : letTimePass();
-        default:
-            return clickOn(oneOf(places));
-        }
+        const int what = below(12);
+        if (what < 4)
+            doTheSensibleThing();
+        else if (what < 7)
+            clickOn(oneOf(everyPlace()));
+        else if (what == 7)
+            clickOn(anywhere());
+        else if (what == 8)
+            below(2) ? player.dragTo(anywhere()) : player.hover(anywhere());
+        else if (what == 9)
+            player.key(below(10) == 0 ? static_cast<char>(below(256)) : oneOf(KEYS));
+        else if (what == 10)
+            pressSpecialKey();
+        else
+            below(40) == 0 ? resize() : letTimePass();
     }
 
 private:
@@ -76,9 +69,11 @@ private:
                 static_cast<float>(below(layout.windowH + 40) - 20 - layout.viewY)};
     }
 
-    int anySpecialKey()
+    void pressSpecialKey()
     {
-        return below(3) == 0 ? GLUT_KEY_F1 + below(12) : GLUT_KEY_LEFT + below(9);
+        const int key = below(3) == 0 ? GLUT_KEY_F1 + below(12) : GLUT_KEY_LEFT + below(9);
+        for (int times = below(4); times >= 0; --times)
+            player.special(key);
     }
 
     // Left to himself he would hardly ever come to a race, and quit it as soon as he had.
@@ -86,27 +81,19 @@ private:
     {
         raceSetup.raceName = "Race " + std::to_string(below(1000));
         raceSetup.teamName = {"A", "B", "C", "D"};
-        switch (gameState) {
-        case STATE_COURSE_SELECT:
+        if (gameState == STATE_COURSE_SELECT)
             return clickOn(coursePicture(below(6)));
-        case STATE_RACE_FILES:
+        if (gameState == STATE_MOVE || gameState == STATE_PLACE_HUMAN) {
+            player.special(GLUT_KEY_LEFT + below(4));
+            return player.key('\r');
+        }
+        if (gameState == STATE_RACE_FILES)
             clickOn(
                 Spot(raceListNames().x + 15.0f, raceListNames().y + static_cast<float>(below(40))));
-            break;
-        case STATE_MOVE:
-        case STATE_PLACE_HUMAN:
-            player.special(GLUT_KEY_LEFT + below(4));
-            return player.key(below(2) ? '\r' : 'x');
-        case STATE_EVENT_HANDIN:
-            player.special(anySpecialKey());
-            break;
-        default:
-            break;
-        }
         clickOnLive();
     }
 
-    // Seldom on what leads away; where nothing acts he waits.
+    // Mostly "OK", "Yes", "Throw" or "Next"; where there is nothing of the kind he waits.
     void clickOnLive()
     {
         std::vector<Control> live;

@@ -405,7 +405,7 @@ private:
     {
         Effect sum;
         for (const Act& act : acts)
-            if (act.when == when && takesPlace(act) && isMiddleIn(at, act.target.place))
+            if (act.when == when && isMiddleIn(at, act.target.place))
                 sum = sum + act.effect;
         return sum;
     }
