@@ -6,8 +6,6 @@
 #include "ui/settings_screen.h"
 #include "ui/texts.h"
 
-#include <utility>
-
 namespace
 {
 
@@ -25,16 +23,6 @@ protected:
         settings = stored;
         fillSettingsFields(settings);
         player.click(CONTROL_MENU_SETTINGS);
-    }
-
-    // As the next run will find it.
-    static double storedRatio()
-    {
-        const Settings present = settings;
-        const bool chosen = ratioChosenByProgram;
-        readSettings();
-        ratioChosenByProgram = chosen;
-        return std::exchange(settings, present).ratioW;
     }
 
     static const Fields& fields() { return settingsScreen.settingsFieldText; }
@@ -113,11 +101,13 @@ TEST_F(SettingsScreenTest, CancelBringsBackTheGuess)
     EXPECT_EQ(settings.ratioW, 16.0);
 
     player.click({CONTROL_MENU_SETTINGS, CONTROL_SETTINGS_OK});
-    EXPECT_EQ(storedRatio(), -1.0) << "not chosen by anybody";
+    readSettings();
+    EXPECT_EQ(settings.ratioW, -1.0) << "not chosen by anybody";
+    resizeScreen(1600, 1000);
     player.click({CONTROL_MENU_SETTINGS, CONTROL_RATIO_1610, CONTROL_SETTINGS_OK});
-    EXPECT_EQ(storedRatio(), 16.0) << "chosen, though it is what had been guessed";
+    readSettings();
     resizeScreen(1280, 1024);
-    EXPECT_EQ(settings.ratioW, 16.0);
+    EXPECT_EQ(settings.ratioW, 16.0) << "chosen, though it is what had been guessed";
 }
 
 TEST_F(SettingsScreenTest, DefaultsCountWithOkOnlyAndLeaveTheRatio)
@@ -197,21 +187,17 @@ TEST_F(Manual, IsLeafedThroughFromEndToEnd)
     player.click(CONTROL_PREVIOUS_PAGE);
     EXPECT_TRUE(screenshot() == firstPage);
 
-    player.special({GLUT_KEY_RIGHT, GLUT_KEY_DOWN, GLUT_KEY_PAGE_DOWN});
-    player.key('\r');
-    EXPECT_EQ(manualPage, 4);
-    player.special({GLUT_KEY_LEFT, GLUT_KEY_UP, GLUT_KEY_PAGE_UP});
-    EXPECT_EQ(manualPage, 1);
-    player.special(GLUT_KEY_END);
-    player.key(' ');
-    EXPECT_EQ(manualPage, last);
-    player.special({GLUT_KEY_HOME, GLUT_KEY_LEFT});
-    EXPECT_EQ(manualPage, 0);
-
-    player.special(GLUT_KEY_END);
+    const auto pageAfter = [&](std::string_view keys, std::initializer_list<int> special) {
+        player.special(special);
+        player.type(keys);
+        return manualPage;
+    };
+    EXPECT_EQ(pageAfter("\r", {GLUT_KEY_RIGHT, GLUT_KEY_DOWN, GLUT_KEY_PAGE_DOWN}), 4);
+    EXPECT_EQ(pageAfter("", {GLUT_KEY_LEFT, GLUT_KEY_UP, GLUT_KEY_PAGE_UP}), 1);
+    EXPECT_EQ(pageAfter("", {GLUT_KEY_HOME, GLUT_KEY_LEFT}), 0);
+    EXPECT_EQ(pageAfter(" ", {GLUT_KEY_END}), last);
     resizeScreen(1250, 1000); // with more lines to a page
     EXPECT_LT(manualPageCount, last);
     EXPECT_EQ(manualPage, manualPageCount - 1) << "the page shown is no more";
-    player.type("\x1bm");
-    EXPECT_EQ(manualPage, 0);
+    EXPECT_EQ(pageAfter("\x1bm", {}), 0);
 }

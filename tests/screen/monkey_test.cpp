@@ -96,10 +96,10 @@ private:
     // Mostly "OK", "Yes", "Throw" or "Next"; where there is nothing of the kind he waits.
     void clickOnLive()
     {
-        std::vector<Control> live;
-        for (int i = 0; i < CONTROL_COUNT; ++i)
-            if (isLive(static_cast<Control>(i)) && (i < CONTROL_TAB_1 || i > CONTROL_CAMERA))
-                live.push_back(static_cast<Control>(i));
+        std::vector<Control> live = everyControl();
+        std::erase_if(live, [](Control it) {
+            return !isLive(it) || (it >= CONTROL_TAB_1 && it <= CONTROL_CAMERA);
+        });
         if (live.empty())
             return letTimePass();
         clickOn(below(3) == 0 ? oneOf(live) : live.front());

@@ -86,6 +86,8 @@ struct Act {
 
 constexpr const char* OKS = "oooo\r "; // with the keys that say "OK"
 
+constexpr Rect NOWHERE = {-9.0f, -9.0f};
+
 // clang-format off
 std::vector<Act> everyAct()
 {
@@ -165,6 +167,7 @@ std::vector<Act> everyAct()
         {RELEASE, {CARD_KIND},                    CONTROL_WHITE,            "wwaw",  {STATE_EVENT_CARD_WHEN, RACE}},
         {RELEASE, {CARD_WHEN},                    CONTROL_IMMEDIATELY,      " itd",  {STATE_MOVE, RACE}},
         {RELEASE, {CARD_WHEN},                    CONTROL_LATER,            " lpl",  {STATE_MOVE, RACE}},
+        {RELEASE, {CARD_WHEN},                    NOWHERE,                  "  p ",  {STATE_POSITIONS}}, // as well
         {RELEASE, {EVENT_NO_CARD},                CONTROL_NO_EVENT_OK,      OKS,     {STATE_MOVE}},
         {RELEASE, {SKIP_NO_CARD},                 CONTROL_NO_CARD_OK,       OKS,     {STATE_TURN, RACE | VIEW}},
         {RELEASE, {DOPING_DRAW},                  CONTROL_DOPING_DRAW_OK,   OKS,     {STATE_DOPING_COUNTERCHECK, RACE}},
@@ -203,50 +206,50 @@ std::vector<Act> everyAct()
     return acts;
 }
 
+// Keys that GLUT calls special are counted on from 256.
+using Keys = std::u16string;
+
+Keys between(int first, int last)
+{
+    Keys keys;
+    for (int key = first; key <= last; ++key)
+        keys += static_cast<char16_t>(key);
+    return keys;
+}
+
+Keys special(int first, int last)
+{
+    return between(256 + first, 256 + last);
+}
+
 struct KeyAct {
     Scenes scenes;
-    const char* keys;
+    Keys keys;
     Effect effect;
-    int language = -1; // only of this one
 };
 
-constexpr const char* NAME_KEYS =
-    "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789 -\t\r\b\x7f"
-    "\xC0\xC1\xC2\xC3\xC4\xC5\xC6\xC7\xC8\xC9\xCA\xCB\xCC\xCD\xCE\xCF\xD0\xD1\xD2\xD3\xD4\xD5\xD6"
-    "\xD8\xD9\xDA\xDB\xDC\xDD\xDE\xDF\xE0\xE1\xE2\xE3\xE4\xE5\xE6\xE7\xE8\xE9\xEA\xEB\xEC\xED\xEE"
-    "\xEF\xF0\xF1\xF2\xF3\xF4\xF5\xF6\xF8\xF9\xFA\xFB\xFC\xFD\xFE\xFF";
+const Keys EDITING = u"\t\r\b\x7f" + special(GLUT_KEY_LEFT, GLUT_KEY_RIGHT) +
+                     special(GLUT_KEY_HOME, GLUT_KEY_END);
+const Keys NAMING = EDITING + u" -" + special(GLUT_KEY_DOWN, GLUT_KEY_DOWN) + between('0', '9') +
+                    between('A', 'Z') + between('a', 'z') + between(0xC0, 0xD6) +
+                    between(0xD8, 0xF6) + between(0xF8, 0xFF);
 
-// Keys that are no control's.
+// clang-format off
 const KeyAct KEY_ACTS[] = {
-    {{MANUAL},              "\r ",                  {SAME, PAGE}},
-    {{MANUAL},              "\x1b",                 {STATE_MAIN_MENU}},
-    {{OPTIONS},             "\t\r\b\1770123456789", {SAME, SETTINGS}},
-    {{TEAMS, TEAMS_NAMED},  NAME_KEYS,              {SAME, SETUP}},
-    {{PLACE},               "\r ",                  {SAME, RACE}},
-    {{MOVE},                "\r ",                  {STATE_TURN, RACE}},
-    {{MOVE},                "uU",                   {SAME, RACE}},
-    {TABS,                  "\t",                   {SAME, VIEW}},
-    {{CARD_WHEN},           "pP",                   {STATE_POSITIONS}, LANGUAGE_FRENCH}, // both of its meanings
-};
-
-struct SpecialAct {
-    Scenes scenes;
-    int first, last;
-    Effect effect;
-};
-
-const SpecialAct SPECIAL_ACTS[] = {
-//   where                   from            to               what happens
-    {{MANUAL},               GLUT_KEY_LEFT,  GLUT_KEY_END,    {SAME, PAGE}},
-    {{OPTIONS},              GLUT_KEY_LEFT,  GLUT_KEY_RIGHT,  {SAME, SETTINGS}},
-    {{OPTIONS},              GLUT_KEY_HOME,  GLUT_KEY_END,    {SAME, SETTINGS}},
-    {{TEAMS, TEAMS_NAMED},   GLUT_KEY_LEFT,  GLUT_KEY_DOWN,   {SAME, SETUP}},
-    {{TEAMS, TEAMS_NAMED},   GLUT_KEY_HOME,  GLUT_KEY_END,    {SAME, SETUP}},
-    {{PLACE, MOVE},          GLUT_KEY_LEFT,  GLUT_KEY_DOWN,   {SAME, RACE}},
-    {LAYING,                 GLUT_KEY_F1,    GLUT_KEY_F8,     {SAME, RACE}},
-    {{EVENT_HANDIN},         GLUT_KEY_F7,    GLUT_KEY_F7,     {SAME, RACE}},
-    {{SCORECARD},            GLUT_KEY_LEFT,  GLUT_KEY_LEFT,   {SAME, VIEW}},
-    {{SCORECARD, STANDINGS}, GLUT_KEY_RIGHT, GLUT_KEY_RIGHT,  {SAME, VIEW}},
+//   where                   which                                   what happens
+    {{MANUAL},               u"\r " + special(GLUT_KEY_LEFT, GLUT_KEY_END), {SAME, PAGE}},
+    {{MANUAL},               u"\x1b",                                {STATE_MAIN_MENU}},
+    {{OPTIONS},              EDITING + between('0', '9'),            {SAME, SETTINGS}},
+    {{TEAMS, TEAMS_NAMED},   NAMING,                                 {SAME, SETUP}},
+    {{PLACE},                u"\r ",                                 {SAME, RACE}},
+    {{MOVE},                 u"\r ",                                 {STATE_TURN, RACE}},
+    {{MOVE},                 u"uU",                                  {SAME, RACE}},
+    {{PLACE, MOVE},          special(GLUT_KEY_LEFT, GLUT_KEY_DOWN),  {SAME, RACE}},
+    {TABS,                   u"\t",                                  {SAME, VIEW}},
+    {LAYING,                 special(GLUT_KEY_F1, GLUT_KEY_F8),      {SAME, RACE}},
+    {{EVENT_HANDIN},         special(GLUT_KEY_F7, GLUT_KEY_F7),      {SAME, RACE}},
+    {{SCORECARD},            special(GLUT_KEY_LEFT, GLUT_KEY_LEFT),  {SAME, VIEW}},
+    {{SCORECARD, STANDINGS}, special(GLUT_KEY_RIGHT, GLUT_KEY_RIGHT), {SAME, VIEW}},
 };
 // clang-format on
 
@@ -307,9 +310,9 @@ Effect operator+(const Effect& a, const Effect& b)
     return {b.to == SAME ? a.to : b.to, a.parts | b.parts, a.mayChange | b.mayChange};
 }
 
-bool isIn(std::string_view keys, int key)
+bool isIn(const Keys& keys, int key)
 {
-    return keys.find(static_cast<char>(key)) != std::string_view::npos;
+    return keys.find(static_cast<char16_t>(key)) != Keys::npos;
 }
 
 class Walk
@@ -328,12 +331,10 @@ public:
                 break; // the letters are other ones, what is held isn't
             player.held = held;
             const bool idle = held & (GLUT_ACTIVE_CTRL | GLUT_ACTIVE_ALT);
-            for (int key = 1; key < 256; ++key)
-                attempt("key " + std::to_string(key), idle ? Effect{} : effectOfKey(key),
-                        [&] { player.key(static_cast<char>(key)); });
-            for (int key = 1; key < 128; ++key)
-                attempt("special key " + std::to_string(key),
-                        idle ? Effect{} : effectOfSpecial(key), [&] { player.special(key); });
+            for (int key = 1; key < 256 + 128; ++key)
+                attempt("key " + std::to_string(key), idle ? Effect{} : effectOfKey(key), [&] {
+                    key < 256 ? player.key(static_cast<char>(key)) : player.special(key - 256);
+                });
         }
         player.held = 0;
     }
@@ -364,11 +365,9 @@ public:
     void lookAtControls()
     {
         const auto controlOf = [](const Act& act) { return act.target.control; };
-        for (int i = 0; i < CONTROL_COUNT; ++i) {
-            const Control control = static_cast<Control>(i);
+        for (const Control control : everyControl())
             EXPECT_EQ(isLive(control), std::ranges::count(acts, control, controlOf) > 0)
-                << nameOf(scene) << ", control " << i;
-        }
+                << nameOf(scene) << ", control " << control;
     }
 
 private:
@@ -416,7 +415,7 @@ private:
         const int small = key >= 'A' && key <= 'Z' ? key + 'a' - 'A' : key;
         return !letters.empty() &&
                ((letters[static_cast<std::size_t>(language)] == small && small != ' ') ||
-                (letters == OKS && isIn("\r ", key)));
+                (letters == OKS && isIn(u"\r ", key)));
     }
 
     Effect effectOfKey(int key) const
@@ -426,18 +425,9 @@ private:
             if (isLetterOf(act, key))
                 sum = sum + act.effect;
         for (const KeyAct& act : KEY_ACTS)
-            if (takesPlace(act) && isIn(act.keys, key) &&
-                (act.language == -1 || act.language == language))
+            if (takesPlace(act) && isIn(act.keys, key))
                 sum = sum + act.effect;
         return sum;
-    }
-
-    Effect effectOfSpecial(int key) const
-    {
-        for (const SpecialAct& act : SPECIAL_ACTS)
-            if (takesPlace(act) && key >= act.first && key <= act.last)
-                return act.effect;
-        return {};
     }
 
     template <typename Try> void attempt(const std::string& what, const Effect& expected, Try tryIt)

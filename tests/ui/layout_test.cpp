@@ -14,15 +14,10 @@ namespace
 using Ratio = std::pair<double, double>;
 constexpr Ratio NO_RATIO = {-1.0, -1.0};
 
-void pick(const Ratio& ratio)
-{
-    std::tie(settings.ratioW, settings.ratioH) = ratio;
-}
-
 // The ratio in a window of this size, if the settings have been read with this one.
 Ratio ratioIn(int windowW, int windowH, const Ratio& stored = NO_RATIO)
 {
-    pick(stored);
+    std::tie(settings.ratioW, settings.ratioH) = stored;
     ratioChosenByProgram = false;
     computeLayout(windowW, windowH);
     return {settings.ratioW, settings.ratioH};
@@ -72,20 +67,5 @@ TEST(LayoutTest, AStoredRatioIsKeptAndAnUnknownOneCountsAsNone)
     for (const Ratio& unknown :
          {Ratio{16.0, 9.0}, {0.0, 0.0}, {5.0, -1.0}, {-1.0, 4.0}, {nan, nan}})
         EXPECT_EQ(ratioIn(1280, 960, unknown), Ratio(4.0, 3.0));
-}
-
-TEST(LayoutTest, AGuessFollowsTheWindowAndAChoiceStaysEvenIfItIsTheFirstGuessAgain)
-{
     EXPECT_EQ(ratioIn(0, 0), NO_RATIO) << "not yet shown: nothing to go by";
-    computeLayout(1280, 960);
-    EXPECT_EQ(settings.ratioW, 4.0);
-    computeLayout(1920, 1080); // full screen at last
-    EXPECT_EQ(settings.ratioW, 16.0);
-    computeLayout(1280, 960);
-    pick({5.0, 4.0}); // on the settings screen
-    computeLayout(1280, 960);
-    EXPECT_EQ(layout.viewW, 1280);
-    pick({4.0, 3.0});
-    computeLayout(1920, 1080);
-    EXPECT_EQ(layout.viewW, 1620);
 }

@@ -115,11 +115,19 @@ void ScreenTest::goToFirstMove(int ticks)
     ASSERT_EQ(gameState, STATE_ANIMATE);
 }
 
+std::vector<Control> everyControl()
+{
+    std::vector<Control> all;
+    for (int control = 0; control < CONTROL_COUNT; ++control)
+        all.push_back(static_cast<Control>(control));
+    return all;
+}
+
 std::vector<Rect> everyPlace()
 {
     std::vector<Rect> all;
-    for (int control = 0; control < CONTROL_COUNT; ++control)
-        all.push_back(placeOf(static_cast<Control>(control)));
+    for (const Control control : everyControl())
+        all.push_back(placeOf(control));
     const auto add = [&all](Rect (*place)(int), int count) {
         for (int i = 0; i < count; ++i)
             all.push_back(place(i));

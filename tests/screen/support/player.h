@@ -59,5 +59,7 @@ protected:
     Player player;
 };
 
-// Every control, and then every other place of ui/places.
+std::vector<Control> everyControl();
+
+// Every control's, and then every other of ui/places.
 std::vector<Rect> everyPlace();
