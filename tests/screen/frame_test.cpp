@@ -7,7 +7,6 @@
 #include "screen/support/player.h"
 #include "ui/cameras.h"
 #include "ui/frame.h"
-#include "ui/layout.h"
 #include "ui/models.h"
 #include "ui/reshape.h"
 
@@ -42,14 +41,6 @@ double distanceFromPicture(const Image& image, bool mirrored, bool upsideDown)
     return sum;
 }
 
-void expectPictureInPlace()
-{
-    const Image image = screenshot();
-    const double here = distanceFromPicture(image, false, false);
-    EXPECT_LT(here, 0.6 * distanceFromPicture(image, true, false)) << view.cameraIndex;
-    EXPECT_LT(here, 0.6 * distanceFromPicture(image, false, true)) << view.cameraIndex;
-}
-
 // Two squares side by side on a straight road, of which one hides the other from a camera.
 struct Neighbours {
     int camera;
@@ -79,11 +70,15 @@ using Reshape = ScreenTest;
 TEST_F(Frame, TheBoardLiesRightWayRoundUnderEveryCamera)
 {
     startRaceOn(ONE_LAP);
-    for (int camera = 0; camera < 2; ++camera, player.click(CONTROL_CAMERA))
-        expectPictureInPlace();
-    player.click(CONTROL_VIEW);
-    for (int camera = 0; camera < PERSPECTIVE_CAMERA_COUNT; ++camera, player.click(CONTROL_CAMERA))
-        expectPictureInPlace();
+    for (const int cameras : {2, PERSPECTIVE_CAMERA_COUNT}) {
+        for (int camera = 0; camera < cameras; ++camera, player.click(CONTROL_CAMERA)) {
+            const Image image = screenshot();
+            const double asPainted = distanceFromPicture(image, false, false);
+            EXPECT_LT(asPainted, 0.6 * distanceFromPicture(image, true, false)) << view.cameraIndex;
+            EXPECT_LT(asPainted, 0.6 * distanceFromPicture(image, false, true)) << view.cameraIndex;
+        }
+        player.click(CONTROL_VIEW);
+    }
 }
 
 // Whatever a frame leaves behind, the next one isn't touched by it. A new race begins in flat view,
@@ -103,11 +98,6 @@ TEST_F(Frame, LooksTheSameWheneverItIsPainted)
     EXPECT_TRUE(screenshot() == flat);
     player.click(CONTROL_VIEW);
     startRaceOn(FROM_START_2);
-    EXPECT_TRUE(screenshot() == first);
-
-    windowOpen = false; // and without a window nothing is painted
-    gameState = STATE_TEAM_SETUP;
-    redrawNow();
     EXPECT_TRUE(screenshot() == first);
 }
 
@@ -131,18 +121,16 @@ TEST_F(Frame, TheRiderOnTurnIsSeenAtEveryTick)
 
 TEST_F(Frame, TheCursorIsWhiteOnAFreeSquareAndRedOnATakenOne)
 {
-    struct Case {
-        std::string_view text;
-        float x, y; // near the cursor's edge
-    };
-    for (const auto& [text, x, y] :
-         {Case{ONE_LAP, 970.0f, 166.0f}, Case{FROM_START_2, 676.0f, 1019.0f}}) {
+    // Near the cursor's edge on each start section.
+    const std::pair<std::string_view, BoardPoint> cursors[] = {{ONE_LAP, {970.0f, 166.0f}},
+                                                               {FROM_START_2, {676.0f, 1019.0f}}};
+    for (const auto& [text, point] : cursors) {
         startRaceOn(text);
         race.currentRider = 5;
         gameState = STATE_PLACE_HUMAN;
         race.placingRow = 1;
         race.placingLane = firstStartLane() + 1;
-        const ScreenPoint at = seenAt(x, y);
+        const ScreenPoint at = seenAt(point.x, point.y);
         redrawNow();
         EXPECT_EQ(screenshot().at(at.x, at.y), pixelOf(WHITE)) << text;
 
@@ -225,14 +213,10 @@ TEST_F(Reshape, ARiderInMotionGoesOnWhereHeWas)
 {
     startRaceOn(ONE_LAP);
     goToFirstMove(5);
-    const RaceState before = race;
     const int pending = fakeHost.pendingMs;
     const Image image = screenshot();
-
     resizeScreen(1024, 768);
     EXPECT_EQ(gameState, STATE_ANIMATE);
-    EXPECT_EQ(race.riders[race.currentRider].x, before.riders[before.currentRider].x);
-    EXPECT_EQ(race.stepsTaken, before.stepsTaken);
     EXPECT_EQ(fakeHost.pendingMs, pending);
     resizeScreen(1280, 1024);
     EXPECT_TRUE(screenshot() == image);

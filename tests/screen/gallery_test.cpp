@@ -1,17 +1,14 @@
-#include "app/settings.h"
 #include "race/event_deck.h"
 #include "screen/support/drawn_texts.h"
 #include "screen/support/player.h"
 #include "screen/support/scenes.h"
 #include "ui/dialogs.h"
 #include "ui/frame.h"
-#include "ui/layout.h"
 #include "ui/manual_pages.h"
 #include "ui/matrices.h"
 #include "ui/scale.h"
 #include "ui/team_setup.h"
 #include "ui/text.h"
-#include "ui/texts.h"
 
 #include <cstdlib>
 #include <fstream>

@@ -1,4 +1,3 @@
-#include "app/settings.h"
 #include "play/movement.h"
 #include "race/event_deck.h"
 #include "screen/support/drawn_texts.h"
@@ -6,7 +5,6 @@
 #include "screen/support/scenes.h"
 #include "support/scripted_rand.h"
 #include "ui/event_texts.h"
-#include "ui/layout.h"
 
 // What the race says in words, numbers and colours: the panel, the dialogs and the positions.
 
@@ -74,19 +72,35 @@ TEST_F(RaceWords, TellTheThrowsForTheOrder)
         EXPECT_EQ(text.colour == pixelOf(WHITE), text.words != "31 ") << text.words;
 }
 
-TEST_F(RaceWords, NameTheRidersAndNumbersThatADialogIsAbout)
+TEST_F(RaceWords, NameTheRidersAndNumbersThatAreMeant)
 {
-    const std::pair<Scene, const char*> said[] = {
-        {Scene::FOLLOW, "Do you want to follow cyclist 21?|Yes|No"},
-        {Scene::DOPING_NUMBER, "Doping number: 4|OK"},
-        {Scene::DOPING_DRAW, "Doping control|Drawn numbers: 3 and 1|Cyclist(s) caught:|"
-                             "21,23,24,32,33,41,42,44,51,53,54|OK"},
-        {Scene::COUNTERCHECK, "Countercheck|Doping number of cyclist 23: 3|Draw: 5|"
-                              "Cyclist 23 disqualification confirmed|OK"}};
-    for (const auto& [scene, words] : said) {
+    struct Case {
+        Scene scene;
+        Rect place;
+        const char* words;
+    };
+    const Case cases[] = {
+        {Scene::FOLLOW, dialogBox(), "Do you want to follow cyclist 21?|Yes|No"},
+        {Scene::DOPING_NUMBER, dialogBox(), "Doping number: 4|OK"},
+        {Scene::DOPING_DRAW, dialogBox(),
+         "Doping control|Drawn numbers: 3 and 1|Cyclist(s) caught:|"
+         "21,23,24,32,33,41,42,44,51,53,54|OK"},
+        {Scene::COUNTERCHECK, dialogBox(),
+         "Countercheck|Doping number of cyclist 23: 3|Draw: 5|"
+         "Cyclist 23 disqualification confirmed|OK"},
+        {Scene::DOPED, dicePlace(0), "D|6"},
+        {Scene::FOLLOW, cardPanel(),
+         "31|31|32|33|34|P|P|31|31|32|33|34|P|P|6|6|6|6|6|6|6|5|5|5|5|5|5|5"},
+        {Scene::COURSES, courseCell(1), "Start 1-A-E-B-C-F|        S   S S F"},
+        {Scene::OPTIONS, movementFrame(),
+         "Smooth computer movement|Delay|ms|0|Distance||345|_|"
+         "Stepwise computer movement|Time between steps|ms|200|Default"},
+    };
+    for (const auto& [scene, place, words] : cases) {
         setEnglishScene(scene);
-        EXPECT_EQ(wordsAt(dialogBox()), words);
+        EXPECT_EQ(wordsAt(place), words);
     }
+    setEnglishScene(Scene::COUNTERCHECK);
     race.counterDie = 3;
     EXPECT_TRUE(screenSays("Cyclist 23 acquitted"));
     setEnglishScene(Scene::DOPING_DRAW);
@@ -100,6 +114,7 @@ TEST_F(RaceWords, AreBrightOnCardsThatTheRiderMayLay)
     race.cardUsed[0][1] = CARD_SPENT;
     giveWonCard(14, 0, WHITE_CARD);
     giveWonCard(15, 1, WHITE_CARD);
+    EXPECT_EQ(wordsAt(cardPlace(15)), "22|5");
     expectCards("spent", "gone", {1});
     expectCards("his own and the team's", "bright", {0, 2, 10, 14});
     expectCards("a team-mate's", "dim", {4, 15});

@@ -2,7 +2,6 @@
 #include "screen/support/drawn_texts.h"
 #include "screen/support/player.h"
 #include "ui/frame.h"
-#include "ui/layout.h"
 #include "ui/score_pages.h"
 
 // What the score sheet shows, and how it is turned over.

@@ -1,4 +1,3 @@
-#include "app/settings.h"
 #include "board/designer.h"
 #include "screen/support/player.h"
 #include "screen/support/scenes.h"

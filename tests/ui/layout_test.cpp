@@ -56,6 +56,7 @@ TEST(LayoutTest, TheDrawingAreaTakesTheRatioOfTheWindowOrTheNearestOne)
     }
     ratioIn(1280, 1024, {4.0, 3.0}); // pixels are wider
     EXPECT_FLOAT_EQ(aspectFix(), 0.9375f);
+    EXPECT_NEAR(layout.boardViewH / layout.boardViewW, 0.629f, 0.001f) << "higher to look right";
     ratioIn(1920, 1080, {5.0, 4.0}); // of a wider window only the middle counts
     EXPECT_EQ(layout.viewW, 1728);
 }

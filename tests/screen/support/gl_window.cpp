@@ -37,9 +37,10 @@ static unsigned frameBuffer = 0;
 static unsigned colourBuffer = 0;
 static unsigned depthBuffer = 0;
 
-static void openTestWindow(int* argc, char** argv)
+int main(int argc, char** argv)
 {
-    glutInit(argc, argv);
+    testing::InitGoogleTest(&argc, argv);
+    glutInit(&argc, argv);
     glutInitDisplayMode(GLUT_DOUBLE | GLUT_DEPTH);
     glutInitWindowSize(64, 64);
     glutCreateWindow("Gravelon tests");
@@ -52,6 +53,7 @@ static void openTestWindow(int* argc, char** argv)
     if (!loadTextures())
         std::exit(1);
     std::filesystem::current_path(here);
+    return RUN_ALL_TESTS();
 }
 
 void resizeScreen(int width, int height)
@@ -147,11 +149,4 @@ ScreenPoint seenAt(float boardX, float boardY)
                matrices.projectionMatrices[view.cameraIndex].begin(), viewport, &seen[0], &seen[1],
                &seen[2]);
     return {static_cast<int>(seen[0]), layout.windowH - 1 - static_cast<int>(seen[1])};
-}
-
-int main(int argc, char** argv)
-{
-    testing::InitGoogleTest(&argc, argv);
-    openTestWindow(&argc, argv);
-    return RUN_ALL_TESTS();
 }

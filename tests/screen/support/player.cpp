@@ -3,7 +3,6 @@
 #include "input/keyboard.h"
 #include "input/mouse.h"
 #include "play/start.h"
-#include "ui/layout.h"
 
 #include <cstdlib>
 

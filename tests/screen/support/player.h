@@ -1,11 +1,14 @@
 #pragma once
 
+#include "app/settings.h"
 #include "screen/support/gl_window.h"
 #include "support/fake_host.h"
 #include "support/own_folder.h"
 #include "support/races.h"
 #include "ui/controls.h"
+#include "ui/layout.h"
 #include "ui/places.h"
+#include "ui/texts.h"
 
 #include <GL/freeglut.h>
 #include <gtest/gtest.h>
