@@ -194,7 +194,7 @@ std::vector<Act> everyAct()
         acts.push_back({PRESS, LAYING, cardPlace(slot), "", {SAME, RACE}});
     for (int i = 0; i < 4; ++i) {
         const auto ofTeam = [i](Control first) { return static_cast<Control>(first + i); };
-        acts.push_back({RELEASE, {LANGUAGES}, languageBox(i), "", {STATE_MAIN_MENU, SETTINGS | FILES}});
+        acts.push_back({RELEASE, {LANGUAGES}, languageBox(i), "", {STATE_MAIN_MENU, SETTINGS | FILES, SETUP}});
         acts.push_back({RELEASE, {TEAMS, TEAMS_NAMED}, teamNameBox(i), "", {SAME, SETUP}});
         acts.push_back({RELEASE, {TEAMS, TEAMS_NAMED}, ofTeam(CONTROL_COMPUTER_1), "", {SAME, RACE}});
         acts.push_back({RELEASE, {COURSES}, courseCell(i), "", {STATE_ORDER_RESULT, RACE | COURSE}});
@@ -268,26 +268,22 @@ std::uintmax_t sizeOfFiles()
     return size;
 }
 
-// Where a box was taken hold of is of no account once it is let go.
-View viewNow()
-{
-    View seen = view;
-    seen.dragOffsetX = seen.dragOffsetY = 0;
-    return seen;
-}
-
 // Everything that input can change, in the order of the parts.
 auto worldNow()
 {
     const RaceSetup& r = raceSetup;
     const SettingsScreen& s = settingsScreen;
+    const View& v = view;
     return std::tuple(
         std::tuple(bytesOf(race), bytesOf(course.courseOccupant)),
         std::tuple(r.teamName, r.multiStage, r.eventCardsOn, r.raceName, r.raceFileName,
                    r.raceBaseName, r.standingsFileName, r.raceStages.size(),
                    teamSetup.teamActiveField, teamSetup.teamCursor, teamSetup.setupMessages),
         std::tuple(settings, s.settingsFieldText, s.settingsActiveField, s.settingsCursor),
-        std::tuple(courseText, courseScreens), viewNow(), manualPage, fakeHost.quits, sizeOfFiles(),
+        std::tuple(courseText, courseScreens),
+        std::tuple(v.viewMode, v.cameraIndex, v.otherCameraIndex, v.shownTeam, v.scorecardGeneral,
+                   v.scorecardStage, v.exportStatus),
+        manualPage, fakeHost.quits, sizeOfFiles(),
         std::tuple(raceList.raceFileList.size(), raceList.raceListPage, racePreview.eventCardsOn,
                    racePreview.teamName, racePreview.isHuman));
 }
@@ -346,7 +342,6 @@ public:
         attempt("press" + place, pressed + byPointer, [&] {
             player.hover(at);
             player.press(at);
-            view.dragActive = false;
         });
         attempt("click" + place, pressed + effectAt(at, RELEASE), [&] {
             player.hover(at);
@@ -377,10 +372,7 @@ private:
         settings.ratioW = 5.0;
         settings.ratioH = 4.0;
         setScene(scene, language);
-        // Typed names, which no choice of a language changes.
-        raceSetup.teamName[0] = raceSetup.teamName[2] = raceSetup.teamName[3] = "Typed";
-        if (scene != SETUP_MESSAGE)
-            raceSetup.teamName[1] = "Ab c";
+        raceSetup.teamName[0] = "Typed"; // unlike in the files
         if (scene == LANGUAGES)
             settings.language = -1;
         courseScreens.saveFailed = false;

@@ -36,50 +36,42 @@ TEST(Glyphs, ACodeWithoutOneFallsBackToASafeLetter)
     }
 }
 
-// Each word with its place in the line and, where it is another one, its line; headings with a
-// star.
+// Each word with its place in the line, a slash for a new line and a star for a heading.
 std::string layOut(std::string_view text, int wrapWidth)
 {
     std::string placed;
     int line = 0;
     for (const ManualWord& word : layOutManualPage(text, 0, wrapWidth, 99).words) {
-        if (word.line != line)
-            placed += "/" + std::to_string(word.line) + "/";
+        placed += std::string(static_cast<std::size_t>(word.line - line), '/');
         line = word.line;
-        placed += std::string(word.heading ? "*" : "") + std::string(word.text) + "@" +
-                  std::to_string(word.x);
+        placed += (word.heading ? "*" : "") + std::string(word.text) + std::to_string(word.x);
     }
     return placed;
 }
 
 // In FONT_TITLE "ab" takes 20 pixels and a blank 5.
-TEST(Wrap, BreaksAtBlanksAndWordsThatAreWiderThanALine)
+TEST(ManualPages, BreaksAtBlanksAndWordsThatAreWiderThanALine)
 {
-    EXPECT_EQ(layOut("ab ab", 45), "ab@0 ab@20") << "it just fits";
-    EXPECT_EQ(layOut("ab ab", 44), "ab@0/1/ab@0");
-    EXPECT_EQ(layOut("  ab  ab<l>  ab", 99), "ab@0 @20 ab@25/1/ab@0");
-    EXPECT_EQ(layOut("ab ababab", 44), "ab@0/1/abab@0/2/ab@0");
-    EXPECT_EQ(layOut(std::string(50, 'a'), 450), std::string(50, 'a') + "@0");
-    EXPECT_EQ(layOut("ab", -1), "a@0/1/b@0");
-    EXPECT_EQ(layOut("<1>a</1>b<2>c</2>d<ll><2>e</2>f", 99),
-              "*a@0/2/b@0/4/*c@0/5/d@0/8/*e@0/9/f@0");
+    EXPECT_EQ(layOut("ab ab", 45), "ab0 ab20") << "it just fits";
+    EXPECT_EQ(layOut("ab ab", 44), "ab0/ab0");
+    EXPECT_EQ(layOut("  ab  ab<l>  ab", 99), "ab0 20 ab25/ab0");
+    EXPECT_EQ(layOut("ab ababab", 44), "ab0/abab0/ab0");
+    EXPECT_EQ(layOut("<1>a</1>b<2>c</2>d<ll>e", 99), "*a0//b0//*c0/d0//e0");
 }
 
 // Whatever the size of the page, each letter stands on exactly one page and within it, and no page
 // is empty.
-TEST(Pages, LoseNothingAndEndForEverySize)
+TEST(ManualPages, LosesNothingAndEndsForEverySize)
 {
     const std::string text = "<1>Title here</1>One two, three.<ll><2>Head</2>Four fivesixseven<l>x "
                              "< y<2>Last head</2>end  ";
-    const std::string letters = "TitlehereOnetwo,three.HeadFourfivesixsevenx<yLastheadend";
     for (int lines = -1; lines < 12; ++lines)
         for (int width = -5; width < 200; width += 3) {
             SCOPED_TRACE(std::to_string(lines) + " lines of " + std::to_string(width));
             std::string drawn;
             for (std::size_t at = 0; at < text.size();) {
                 const std::size_t before = drawn.size();
-                const ManualPageWords page =
-                    layOutManualPage(text, at, width, static_cast<float>(lines));
+                const auto page = layOutManualPage(text, at, width, static_cast<float>(lines));
                 for (const ManualWord& word : page.words) {
                     ASSERT_LE(word.line, std::max(lines, 1));
                     std::ranges::remove_copy(word.text, std::back_inserter(drawn), ' ');
@@ -87,7 +79,7 @@ TEST(Pages, LoseNothingAndEndForEverySize)
                 ASSERT_GT(drawn.size(), before);
                 at = page.end;
             }
-            ASSERT_EQ(drawn, letters);
+            ASSERT_EQ(drawn, "TitlehereOnetwo,three.HeadFourfivesixsevenx<yLastheadend");
         }
 }
 

@@ -130,21 +130,6 @@ void failSetup()
     confirmTeamSetup();
 }
 
-void saveCourses(std::initializer_list<const char*> courses)
-{
-    for (const char* saved : courses) {
-        courseText = saved;
-        saveDesign();
-    }
-}
-
-void chooseCourse()
-{
-    saveCourses({"64S5F"});
-    courseText.clear();
-    returnState = STATE_TEAM_SETUP;
-}
-
 void design()
 {
     courseText = "01S23";
@@ -159,9 +144,19 @@ void finishDesign()
 
 void browse()
 {
-    saveCourses({"64S5F", "01S23S4S5F", "67S8F"});
+    for (const char* saved : {"64S5F", "01S23S4S5F", "67S8F"}) {
+        courseText = saved;
+        saveDesign();
+    }
     courseScreens.savedCourseIndex = 1;
     courseText = readSavedCourse(1);
+}
+
+void chooseCourse()
+{
+    browse();
+    courseText.clear();
+    returnState = STATE_TEAM_SETUP;
 }
 
 void place()
