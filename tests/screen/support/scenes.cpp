@@ -108,7 +108,6 @@ void personDopes()
 
 void openSettingsField()
 {
-    returnState = STATE_MAIN_MENU;
     settings.stepDistance = 345.0f;
     settingsBackup = settings;
     fillSettingsFields(settings);
@@ -156,7 +155,6 @@ void chooseCourse()
 {
     browse();
     courseText.clear();
-    returnState = STATE_TEAM_SETUP;
 }
 
 void place()
@@ -220,13 +218,11 @@ void failToSave()
 {
     rideTwoStages();
     raceSetup.raceFileName = "no such folder here/Tour.race";
-    returnState = STATE_RACE_CLOSED;
 }
 
 template <bool GENERAL> void openSecondStage()
 {
     rideTwoStages();
-    returnState = STATE_TURN;
     view.scorecardStage = 1;
     view.scorecardGeneral = GENERAL;
 }
@@ -262,7 +258,6 @@ void openStandings()
 {
     chooseFromList();
     raceSetup.standingsFileName = "standings.csv";
-    returnState = STATE_RACE_FILES;
 }
 
 struct SceneRecord {
@@ -270,6 +265,7 @@ struct SceneRecord {
     GameState state;
     void (*race)();
     void (*act)() = nothing;
+    GameState behind = STATE_TRANSIT; // what it leads back to
 };
 
 // clang-format off
@@ -277,11 +273,11 @@ constexpr SceneRecord scenes[] = {
     {"menu",            STATE_MAIN_MENU,           nothing},
     {"languages",       STATE_LANGUAGE,            nothing},
     {"manual",          STATE_MANUAL,              nothing,        [] { manualPage = 1; }},
-    {"settings",        STATE_SETTINGS,            nothing,        openSettingsField},
+    {"settings",        STATE_SETTINGS,            nothing,        openSettingsField, STATE_MAIN_MENU},
     {"teams",           STATE_TEAM_SETUP,          nothing,        setUpTeams},
     {"teams_named",     STATE_TEAM_SETUP,          nothing,        [] { setUpTeams(); raceSetup.multiStage = false; }},
     {"setup_message",   STATE_SETUP_MESSAGE,       nothing,        failSetup},
-    {"courses",         STATE_COURSE_SELECT,       nothing,        chooseCourse},
+    {"courses",         STATE_COURSE_SELECT,       nothing,        chooseCourse, STATE_TEAM_SETUP},
     {"design",          STATE_COURSE_DESIGN,       nothing,        design},
     {"design_finished", STATE_COURSE_DESIGN,       nothing,        finishDesign},
     {"saved",           STATE_COURSE_SAVED,        nothing,        browse},
@@ -294,7 +290,7 @@ constexpr SceneRecord scenes[] = {
     {"animate",         STATE_ANIMATE,             computersMove,  [] { view.shownTeam = 0; }},
     {"follow",          STATE_FOLLOW_PROMPT,       personLeads},
     {"no_move",         STATE_NO_MOVE,             personsTurn},
-    {"quit",            STATE_CONFIRM_QUIT,        computersThrow, [] { returnState = STATE_ORDER_RESULT; }},
+    {"quit",            STATE_CONFIRM_QUIT,        computersThrow, nothing, STATE_ORDER_RESULT},
     {"final",           STATE_FINAL_SCORECARD,     computersThrow, finish},
     {"event_card",      STATE_EVENT_CARD,          personDraws},
     {"card_kind",       STATE_EVENT_CARD_KIND,     personDraws},
@@ -304,18 +300,18 @@ constexpr SceneRecord scenes[] = {
     {"event_no_card",   STATE_EVENT_NO_CARD,       personDraws},
     {"handin",          STATE_SKIP_HANDIN,         personMissesTurns, [] { pickCard(12); }},
     {"skip_no_card",    STATE_SKIP_NO_CARD,        personMissesTurns, [] { leaveCards(0, {}); }},
-    {"doping",          STATE_CONFIRM_DOPING,      personsTurn,    [] { returnState = STATE_TURN; }},
+    {"doping",          STATE_CONFIRM_DOPING,      personsTurn,    nothing, STATE_TURN},
     {"doping_number",   STATE_DOPING_NUMBER,       personDopes},
     {"doped",           STATE_TURN,                personDopes,    takeDope},
     {"doping_draw",     STATE_DOPING_DRAW,         personsRide,    control},
     {"countercheck",    STATE_DOPING_COUNTERCHECK, personsRide,    countercheck},
-    {"save_failed",     STATE_SAVE_FAILED,         computersThrow, failToSave},
-    {"scorecard",       STATE_SCORECARD,           personsRide,    openSecondStage<false>},
-    {"general",         STATE_SCORECARD,           personsRide,    openSecondStage<true>},
-    {"positions",       STATE_POSITIONS,           personsTurn,    [] { returnState = STATE_TURN; }},
+    {"save_failed",     STATE_SAVE_FAILED,         computersThrow, failToSave, STATE_RACE_CLOSED},
+    {"scorecard",       STATE_SCORECARD,           personsRide,    openSecondStage<false>, STATE_TURN},
+    {"general",         STATE_SCORECARD,           personsRide,    openSecondStage<true>, STATE_TURN},
+    {"positions",       STATE_POSITIONS,           personsTurn,    nothing, STATE_TURN},
     {"races",           STATE_RACE_FILES,          nothing,        listRaces},
     {"race_chosen",     STATE_RACE_FILES,          nothing,        chooseFromList},
-    {"standings",       STATE_RACE_STANDINGS,      nothing,        openStandings},
+    {"standings",       STATE_RACE_STANDINGS,      nothing,        openStandings, STATE_RACE_FILES},
 };
 // clang-format on
 static_assert(std::size(scenes) == static_cast<int>(Scene::STANDINGS) + 1);
@@ -350,5 +346,6 @@ void setScene(Scene scene, int language)
     settings = {.language = language, .ratioW = ratioW, .ratioH = ratioH};
     loadTexts();
     gameState = recordOf(scene).state;
+    returnState = recordOf(scene).behind;
     recordOf(scene).act();
 }
