@@ -70,9 +70,12 @@ using Reshape = ScreenTest;
 TEST_F(Frame, TheBoardLiesRightWayRoundUnderEveryCamera)
 {
     startRaceOn(ONE_LAP);
+    Image last;
     for (const int cameras : {2, PERSPECTIVE_CAMERA_COUNT}) {
         for (int camera = 0; camera < cameras; ++camera, player.click(CONTROL_CAMERA)) {
             const Image image = screenshot();
+            EXPECT_FALSE(image == last) << view.cameraIndex;
+            last = image;
             const double asPainted = distanceFromPicture(image, false, false);
             EXPECT_LT(asPainted, 0.6 * distanceFromPicture(image, true, false)) << view.cameraIndex;
             EXPECT_LT(asPainted, 0.6 * distanceFromPicture(image, false, true)) << view.cameraIndex;
@@ -183,6 +186,16 @@ TEST_F(Frame, ARiderStandsInFrontOfTheOneBehindHimUnderEveryCamera)
             EXPECT_GT(shared, 60) << camera;
             EXPECT_EQ(hidden, 0) << camera;
         }
+}
+
+TEST_F(Frame, ARiderOffTheBoardIsNotSeenOnIt)
+{
+    const Image nobody = seenWith(FIRST_PERSPECTIVE_CAMERA, {});
+    seenWith(FIRST_PERSPECTIVE_CAMERA, {{0, FLAT.row, FLAT.lane}});
+    EXPECT_FALSE(screenshot() == nobody);
+    race.riders[0].offBoard = 1;
+    drawFrame();
+    EXPECT_TRUE(screenshot() == nobody);
 }
 
 // The window system reports the size asked for first and the one that the window gets after it.

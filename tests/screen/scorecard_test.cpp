@@ -4,6 +4,8 @@
 #include "ui/frame.h"
 #include "ui/score_pages.h"
 
+#include <algorithm>
+
 // What the score sheet shows, and how it is turned over.
 
 namespace
@@ -121,8 +123,12 @@ TEST_F(Scorecard, PagesTurnAsFarAsThereAreStages)
     EXPECT_TRUE(at(1)) << "the last one there is";
 }
 
-TEST_F(Scorecard, OkForgetsTheMessageAndLetsTheMoveGoOn)
+TEST_F(Scorecard, AnExportIsToldAndOkForgetsItAndLetsTheMoveGoOn)
 {
+    std::filesystem::create_directory("Twelve chars.csv");
+    player.key('x');
+    EXPECT_EQ(std::ranges::count(drawnTexts(), pixelOf(FAILURE_RED), &DrawnText::colour), 2);
+    std::filesystem::remove("Twelve chars.csv");
     player.key('x');
     EXPECT_TRUE(screenSays("Standings written to \"Twelve chars.csv\"."));
     EXPECT_TRUE(std::filesystem::exists("Twelve chars.csv"));
