@@ -92,6 +92,9 @@ TEST_F(RaceWords, NameTheRidersAndNumbersThatAreMeant)
         {Scene::FOLLOW, cardPanel(),
          "31|31|32|33|34|P|P|31|31|32|33|34|P|P|6|6|6|6|6|6|6|5|5|5|5|5|5|5"},
         {Scene::COURSES, courseCell(1), "Start 1-A-E-B-C-F|        S   S S F"},
+        {Scene::SAVED,
+         {layout.savedTitleX - 1.0f, layout.savedTitleY - 20.0f, 200.0f, 60.0f},
+         "Start 1-A-E-B-D-F|        S   S S F"},
         {Scene::OPTIONS, movementFrame(),
          "Smooth computer movement|Delay|ms|0|Distance||345|_|"
          "Stepwise computer movement|Time between steps|ms|200|Default"},
