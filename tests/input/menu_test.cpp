@@ -1,32 +1,16 @@
-#include "app/game_state.h"
-#include "app/settings.h"
-#include "board/course.h"
-#include "play/start.h"
-#include "race/race_state.h"
-#include "screen/support/gl_window.h"
+#include "screen/support/drawn_texts.h"
 #include "screen/support/player.h"
 #include "store/settings_file.h"
-#include "support/fake_host.h"
-#include "support/own_folder.h"
-#include "ui/layout.h"
 #include "ui/manual_pages.h"
-#include "ui/places.h"
 #include "ui/settings_screen.h"
-#include "ui/texts.h"
-
-#include <GL/freeglut.h>
-#include <gtest/gtest.h>
-
-#include <cstdlib>
-#include <utility>
 
 namespace
 {
 
 using Fields = Table<std::string, SETTINGS_FIELD_COUNT>;
 
-// The settings over the main menu, in a folder of their own.
-class SettingsScreenTest : public testing::Test
+// The settings over the main menu.
+class SettingsScreenTest : public ScreenTest
 {
 protected:
     void SetUp() override { open({}); }
@@ -37,25 +21,14 @@ protected:
         settings = stored;
         fillSettingsFields(settings);
         player.click(CONTROL_MENU_SETTINGS);
-        ASSERT_EQ(gameState, STATE_SETTINGS);
-    }
-
-    // As the next run will find it.
-    static double storedRatio()
-    {
-        const Settings present = settings;
-        const bool chosen = ratioChosenByProgram;
-        readSettings();
-        ratioChosenByProgram = chosen;
-        return std::exchange(settings, present).ratioW;
     }
 
     static const Fields& fields() { return settingsScreen.settingsFieldText; }
     static int field() { return settingsScreen.settingsActiveField; }
-
-    OwnFolder here;
-    Player player;
 };
+
+using Languages = ScreenTest;
+using Manual = ScreenTest;
 
 } // namespace
 
@@ -80,27 +53,24 @@ TEST_F(SettingsScreenTest, DigitsGoIntoTheOpenFieldsAndOkKeepsThem)
 
 TEST_F(SettingsScreenTest, KeysGoRoundTheOpenFieldsOnly)
 {
-    player.special(GLUT_KEY_UP);
-    EXPECT_EQ(field(), FIELD_STEP_TIME);
-    player.special({GLUT_KEY_DOWN, GLUT_KEY_DOWN});
-    EXPECT_EQ(field(), FIELD_STEP_DISTANCE);
-    player.key('\r');
-    EXPECT_EQ(field(), FIELD_STEP_TIME);
+    const auto fieldAfter = [&](std::string_view keys, std::initializer_list<int> special = {}) {
+        player.type(keys);
+        player.special(special);
+        return field();
+    };
+    EXPECT_EQ(fieldAfter("", {GLUT_KEY_UP}), FIELD_STEP_TIME);
+    EXPECT_EQ(fieldAfter("", {GLUT_KEY_DOWN, GLUT_KEY_DOWN}), FIELD_STEP_DISTANCE);
+    EXPECT_EQ(fieldAfter("\r"), FIELD_STEP_TIME);
     player.held = GLUT_ACTIVE_SHIFT;
-    player.key('\t');
-    EXPECT_EQ(field(), FIELD_STEP_DISTANCE);
+    EXPECT_EQ(fieldAfter("\t"), FIELD_STEP_DISTANCE);
     player.held = 0;
 
     player.click(CONTROL_STEPWISE);
-    EXPECT_EQ(field(), FIELD_STEP_DELAY);
-    player.type("\t\r");
-    player.special({GLUT_KEY_UP, GLUT_KEY_DOWN});
-    EXPECT_EQ(field(), FIELD_STEP_DELAY);
+    EXPECT_EQ(fieldAfter("\t\r", {GLUT_KEY_UP, GLUT_KEY_DOWN}), FIELD_STEP_DELAY);
     player.click(CONTROL_DEFAULT);
     EXPECT_EQ(field(), FIELD_STEP_TIME);
     player.click({CONTROL_STEPWISE, CONTROL_RATIO_43, CONTROL_SETTINGS_CANCEL});
-    player.key('t');
-    EXPECT_EQ(field(), FIELD_STEP_TIME) << "the open one, though the other had been chosen";
+    EXPECT_EQ(fieldAfter("t"), FIELD_STEP_TIME) << "the open one, though another was chosen";
 }
 
 TEST_F(SettingsScreenTest, CancelGivesEverythingBack)
@@ -111,12 +81,9 @@ TEST_F(SettingsScreenTest, CancelGivesEverythingBack)
     resizeScreen(1000, 800); // laid out for the ratio that is given up
     EXPECT_LT(layout.viewW, 1000);
     player.click(CONTROL_SETTINGS_CANCEL);
-    EXPECT_EQ(gameState, STATE_MAIN_MENU);
     EXPECT_EQ(layout.viewW, 1000);
     EXPECT_GT(placeOf(CONTROL_EXIT).x, 880.0f) << "laid out anew";
-    EXPECT_EQ(settings.smoothMovement, 1);
-    EXPECT_EQ(settings.stepDistance, 7.5f);
-    EXPECT_EQ(settings.ratioW, 5.0);
+    EXPECT_EQ(settings, (Settings{.stepTime = 12, .stepDistance = 7.5f, .ratioW = 5, .ratioH = 4}));
     EXPECT_EQ(fields(), (Fields{"12", "7", "200"}));
     EXPECT_FALSE(std::filesystem::exists("settings"));
 }
@@ -125,7 +92,6 @@ TEST_F(SettingsScreenTest, CancelGivesEverythingBack)
 TEST_F(SettingsScreenTest, CancelBringsBackTheGuess)
 {
     startProgram(1280, 1024);
-    ASSERT_TRUE(ratioChosenByProgram);
     player.click(
         {CONTROL_MENU_SETTINGS, CONTROL_RATIO_1610, CONTROL_RATIO_43, CONTROL_SETTINGS_CANCEL});
     EXPECT_EQ(settings.ratioW, 5.0);
@@ -133,11 +99,13 @@ TEST_F(SettingsScreenTest, CancelBringsBackTheGuess)
     EXPECT_EQ(settings.ratioW, 16.0);
 
     player.click({CONTROL_MENU_SETTINGS, CONTROL_SETTINGS_OK});
-    EXPECT_EQ(storedRatio(), -1.0) << "not chosen by anybody";
+    readSettings();
+    EXPECT_EQ(settings.ratioW, -1.0) << "not chosen by anybody";
+    resizeScreen(1600, 1000);
     player.click({CONTROL_MENU_SETTINGS, CONTROL_RATIO_1610, CONTROL_SETTINGS_OK});
-    EXPECT_EQ(storedRatio(), 16.0) << "chosen, though it is what had been guessed";
+    readSettings();
     resizeScreen(1280, 1024);
-    EXPECT_EQ(settings.ratioW, 16.0);
+    EXPECT_EQ(settings.ratioW, 16.0) << "chosen, though it is what had been guessed";
 }
 
 TEST_F(SettingsScreenTest, DefaultsCountWithOkOnlyAndLeaveTheRatio)
@@ -147,9 +115,7 @@ TEST_F(SettingsScreenTest, DefaultsCountWithOkOnlyAndLeaveTheRatio)
     EXPECT_EQ(fields(), (Fields{"0", "10", "200"}));
     EXPECT_EQ(settings.stepDelay, 5);
     player.click(CONTROL_SETTINGS_OK);
-    EXPECT_EQ(settings.stepDelay, 200);
-    EXPECT_EQ(settings.smoothMovement, 1);
-    EXPECT_EQ(settings.ratioW, 4.0);
+    EXPECT_EQ(settings, (Settings{.ratioW = 4.0, .ratioH = 3.0}));
 }
 
 TEST_F(SettingsScreenTest, AnEmptyFieldIsNoughtAndAFileThatCantBeWrittenNoObstacle)
@@ -157,122 +123,74 @@ TEST_F(SettingsScreenTest, AnEmptyFieldIsNoughtAndAFileThatCantBeWrittenNoObstac
     std::filesystem::create_directory("settings");
     player.key('\177');
     player.click({CONTROL_STEPWISE, CONTROL_SETTINGS_OK});
-    EXPECT_EQ(gameState, STATE_MAIN_MENU);
-    EXPECT_EQ(settings.stepTime, 0);
     EXPECT_EQ(settings.smoothMovement, 0);
     EXPECT_EQ(fields()[FIELD_STEP_TIME], "0");
 }
 
-TEST_F(SettingsScreenTest, AMoveIsFrozenAndGoesOnUnderTheNewRatio)
+TEST_F(SettingsScreenTest, ANewRatioIsSeenAtOnce)
 {
     player.click(CONTROL_SETTINGS_CANCEL);
-    std::srand(11);
-    courseText = "01S23S4S5F12";
-    startRace();
-    while (gameState == STATE_ORDER_RESULT)
-        player.click(CONTROL_NEXT);
-    for (int tick = 0; tick < 5; ++tick)
-        runTick();
-    ASSERT_EQ(gameState, STATE_ANIMATE);
-    const Rider& rider = race.riders[race.currentRider];
-    const float x = rider.x;
-
-    player.press(placeOf(CONTROL_RACE_SETTINGS));
-    ASSERT_EQ(gameState, STATE_SETTINGS);
-    runTimer();
-    player.click({CONTROL_RATIO_43, CONTROL_SETTINGS_OK});
+    startRaceOn(ONE_LAP);
+    player.click({CONTROL_RACE_SETTINGS, CONTROL_RATIO_43, CONTROL_SETTINGS_OK});
+    EXPECT_EQ(gameState, STATE_ORDER_RESULT);
     EXPECT_EQ(layout.viewW, 1200);
-    EXPECT_EQ(gameState, STATE_ANIMATE);
     const Image anew = screenshot();
     resizeScreen(1000, 800);
     resizeScreen(1280, 1024);
     EXPECT_TRUE(screenshot() == anew) << "shapes keep the size that they were compiled with";
-    EXPECT_EQ(rider.x, x);
-    EXPECT_EQ(fakeHost.pendingMs, 0);
-    runTick();
-    runTick();
-    EXPECT_NE(rider.x, x);
-    player.type("ee"); // the second one is no letter of this screen
-    EXPECT_EQ(gameState, STATE_SETTINGS);
 }
 
-TEST(Languages, TheRowUnderThePointerIsLitAndAClickKeepsIt)
+TEST_F(Languages, TheRowUnderThePointerIsLitAndAClickKeepsIt)
 {
-    const OwnFolder here;
-    startProgram(640, 512);
-    raceSetup.teamName[1] = "Rockets";
     const auto isLit = [](int language) {
         const Rect row = languageBox(language);
         return screenshot().at(row.x + row.w * 0.8f, row.y + row.h * 0.5f) ==
                pixelOf({1.0f, 0.5f, 0.0f});
     };
-    Player player;
     player.click(CONTROL_LANGUAGE);
     EXPECT_TRUE(isLit(LANGUAGE_ENGLISH));
-    const Rect row = languageBox(LANGUAGE_DUTCH);
-    player.press(row.x + 9.0f, row.y + 9.0f);
-    player.dragTo(row.x + 9.0f, row.y + 9.0f);
+    const Rect dutch = languageBox(LANGUAGE_DUTCH);
+    player.press(dutch);
+    player.dragTo(dutch);
     EXPECT_TRUE(isLit(LANGUAGE_DUTCH) && !isLit(LANGUAGE_ENGLISH)) << "with a button held as well";
-    player.dragTo(row.x - 9.0f, row.y + 9.0f);
-    player.release(row.x - 9.0f, row.y + 9.0f);
-    player.click(row); // without the pointer having got there no row is lit
-    player.key('\r');
-    EXPECT_EQ(gameState, STATE_LANGUAGE);
-    EXPECT_FALSE(std::filesystem::exists("settings"));
+    player.dragTo({dutch.x - 9.0f, dutch.y});
+    player.release({dutch.x - 9.0f, dutch.y});
+    EXPECT_EQ(gameState, STATE_LANGUAGE) << "no row is lit";
 
     player.hover(languageBox(LANGUAGE_FRENCH));
     player.click(languageBox(LANGUAGE_FRENCH));
-    EXPECT_EQ(gameState, STATE_MAIN_MENU);
     EXPECT_EQ(texts.exit, "Fin");
     EXPECT_EQ(raceSetup.teamName[0], "Belgique");
-    EXPECT_EQ(raceSetup.teamName[1], "Rockets");
     settings = {};
     readSettings();
     EXPECT_EQ(settings.language, LANGUAGE_FRENCH);
 }
 
-// The key that means "OK" is a letter like any other where there is nothing to confirm.
-TEST(Languages, InFrenchOIsYes)
+TEST_F(Manual, IsLeafedThroughFromEndToEnd)
 {
-    startProgram(640, 512);
-    settings.language = LANGUAGE_FRENCH;
-    loadTexts();
-    gameState = STATE_CONFIRM_QUIT;
-    Player player;
-    player.key('\r');
-    EXPECT_EQ(gameState, STATE_CONFIRM_QUIT);
-    player.key('o');
-    EXPECT_EQ(gameState, STATE_MAIN_MENU);
-}
-
-TEST(Manual, IsLeafedThroughFromEndToEnd)
-{
-    startProgram(640, 512);
-    Player player;
+    resizeScreen(640, 512);
     player.click(CONTROL_MANUAL);
     const int last = manualPageCount - 1;
     ASSERT_GE(last, 4) << "the window is too high for this test";
+    EXPECT_TRUE(screenSays("1/" + std::to_string(manualPageCount)));
+    EXPECT_EQ(drawnTexts()[2].colour, pixelOf(YELLOW)) << "a heading, behind the title";
     const Image firstPage = screenshot();
     player.click({CONTROL_PREVIOUS_PAGE, CONTROL_NEXT_PAGE});
     EXPECT_FALSE(screenshot() == firstPage);
     player.click(CONTROL_PREVIOUS_PAGE);
     EXPECT_TRUE(screenshot() == firstPage);
 
-    player.special({GLUT_KEY_RIGHT, GLUT_KEY_DOWN, GLUT_KEY_PAGE_DOWN});
-    player.key('\r');
-    EXPECT_EQ(manualPage, 4);
-    player.special({GLUT_KEY_LEFT, GLUT_KEY_UP, GLUT_KEY_PAGE_UP});
-    EXPECT_EQ(manualPage, 1);
-    player.special(GLUT_KEY_END);
-    player.key(' ');
-    EXPECT_EQ(manualPage, last);
-    player.special({GLUT_KEY_HOME, GLUT_KEY_LEFT});
-    EXPECT_EQ(manualPage, 0);
-
-    player.special(GLUT_KEY_END);
+    const auto pageAfter = [&](std::string_view keys, std::initializer_list<int> special) {
+        player.special(special);
+        player.type(keys);
+        return manualPage;
+    };
+    EXPECT_EQ(pageAfter("\r", {GLUT_KEY_RIGHT, GLUT_KEY_DOWN, GLUT_KEY_PAGE_DOWN}), 4);
+    EXPECT_EQ(pageAfter("", {GLUT_KEY_LEFT, GLUT_KEY_UP, GLUT_KEY_PAGE_UP}), 1);
+    EXPECT_EQ(pageAfter("", {GLUT_KEY_HOME, GLUT_KEY_LEFT}), 0);
+    EXPECT_EQ(pageAfter(" ", {GLUT_KEY_END}), last);
     resizeScreen(1250, 1000); // with more lines to a page
     EXPECT_LT(manualPageCount, last);
     EXPECT_EQ(manualPage, manualPageCount - 1) << "the page shown is no more";
-    player.type("\x1bm");
-    EXPECT_EQ(manualPage, 0);
+    EXPECT_EQ(pageAfter("\x1bm", {}), 0);
 }

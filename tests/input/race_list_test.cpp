@@ -1,46 +1,25 @@
-#include "app/game_state.h"
-#include "app/host.h"
-#include "app/settings.h"
-#include "app/view.h"
-#include "race/race_state.h"
 #include "screen/support/drawn_texts.h"
 #include "screen/support/player.h"
 #include "store/race_file.h"
-#include "support/fake_host.h"
-#include "support/own_folder.h"
 #include "ui/frame.h"
-#include "ui/layout.h"
-#include "ui/places.h"
 #include "ui/race_list.h"
 #include "ui/team_setup.h"
-#include "ui/texts.h"
-
-#include <GL/freeglut.h>
-#include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdlib>
-#include <filesystem>
 #include <fstream>
 
 namespace
 {
 
 using Messages = std::vector<std::string>;
+using TeamSetupTest = ScreenTest;
 
-// The main menu, in a folder of its own.
-class RaceListTest : public testing::Test
+class RaceListTest : public ScreenTest
 {
 protected:
-    void SetUp() override { startProgram(1280, 1024); }
-
-    // A race of so many stages, each won by the team's first rider.
-    static void writeRaceOf(const std::string& fileName, int team, int stages)
+    static void writeRaceOf(const std::string& fileName, std::size_t stages)
     {
-        StageRecord record;
-        record.slots = filled<int, RESULT_SLOT_COUNT>(-1);
-        record.slots[FINISH_SLOT] = team * RIDERS_PER_TEAM;
-        raceSetup.raceStages.assign(static_cast<std::size_t>(stages), record);
+        raceSetup.raceStages.resize(stages);
         writeRace(fileName);
         raceSetup.raceStages.clear();
     }
@@ -58,76 +37,20 @@ protected:
     void choose(const std::string& fileName)
     {
         const auto& files = raceList.raceFileList;
-        const auto found = std::ranges::find(files, fileName);
-        ASSERT_NE(found, files.end()) << fileName;
-        player.click(place(static_cast<int>(found - files.begin())));
+        player.click(place(static_cast<int>(std::ranges::find(files, fileName) - files.begin())));
         ASSERT_EQ(raceSetup.raceFileName, fileName);
     }
-
-    // From the team setup over the last course to the end of the stage, of computers alone.
-    void raceAStage()
-    {
-        settings.stepDistance = 999.0f;
-        host.redraw = nullptr; // nobody looks
-        std::srand(1);
-        player.hover(coursePicture(3));
-        player.click(coursePicture(3));
-        while (gameState != STATE_FINAL_SCORECARD) {
-            if (gameState == STATE_ANIMATE)
-                ASSERT_TRUE(runTick());
-            else
-                player.key(gameState == STATE_ORDER_RESULT ? 'n' : 'o');
-        }
-        host.redraw = drawFrame;
-        player.click(CONTROL_SHEET_QUIT);
-    }
-
-    OwnFolder here;
-    Player player;
 };
 
 } // namespace
-
-// The results of a race are its own: neither those of the race last looked at, nor lost.
-TEST_F(RaceListTest, ANewRaceKeepsNothingOfTheOneLookedAtLast)
-{
-    writeRaceOf("Tour.race", 2, 3);
-    player.click(CONTROL_CONTINUE);
-    choose("Tour.race");
-    player.click({CONTROL_LIST_SCORECARD, CONTROL_SHEET_OK, CONTROL_LIST_BACK, CONTROL_START});
-    player.click(raceNameBox());
-    player.type("Giro");
-    player.click(CONTROL_TEAM_OK);
-    raceAStage();
-    ASSERT_TRUE(readRace("Giro.race"));
-    EXPECT_EQ(raceSetup.raceStages.size(), 1u);
-    ASSERT_TRUE(readRace("Tour.race"));
-    EXPECT_EQ(raceSetup.raceStages.size(), 3u);
-}
-
-TEST_F(RaceListTest, ARaceThatGoesOnBehindASingleStageIsSaved)
-{
-    writeRaceOf("Tour.race", 2, 3);
-    player.click({CONTROL_START, CONTROL_SINGLE_STAGE, CONTROL_TEAM_OK});
-    raceAStage();
-    player.click(CONTROL_CONTINUE);
-    choose("Tour.race");
-    player.click(CONTROL_LIST_OK);
-    raceAStage();
-    raceSetup.raceStages.clear();
-    ASSERT_TRUE(readRace("Tour.race"));
-    ASSERT_EQ(raceSetup.raceStages.size(), 4u);
-    EXPECT_EQ(raceSetup.raceStages[2].slots[FINISH_SLOT], 8);
-    EXPECT_EQ(raceSetup.raceStages[3].slots, race.resultSlots);
-}
 
 TEST_F(RaceListTest, ColumnsAreTurnedAsLongAsThereAreMore)
 {
     writeRace("R0.race");
     for (int i = 1; i < raceListRows * raceListCols; ++i)
         std::filesystem::copy_file("R0.race", "R" + std::to_string(i) + ".race");
-    player.click({CONTROL_CONTINUE, CONTROL_LIST_NEXT});
-    EXPECT_EQ(raceList.raceListPage, 0) << "all of them are on view";
+    player.click(CONTROL_CONTINUE);
+    EXPECT_FALSE(isLive(CONTROL_LIST_NEXT)) << "all of them are on view";
 
     std::filesystem::copy_file("R0.race", "One more.race");
     drawFrame();
@@ -136,10 +59,11 @@ TEST_F(RaceListTest, ColumnsAreTurnedAsLongAsThereAreMore)
     EXPECT_EQ(raceList.raceListPage, 1);
     player.click(place(79));
     EXPECT_EQ(raceSetup.raceFileName, "") << "nothing stands there";
-    player.click(place(60));
-    EXPECT_EQ(raceSetup.raceFileName, raceList.raceFileList[80]);
-    player.click(place(2));
-    EXPECT_EQ(raceSetup.raceFileName, raceList.raceFileList[22]);
+    for (const int entry : {60, 2}) {
+        player.click(place(entry));
+        EXPECT_EQ(raceSetup.raceFileName,
+                  raceList.raceFileList[static_cast<std::size_t>(entry + raceListRows)]);
+    }
 
     for (const auto& entry : std::filesystem::directory_iterator("."))
         if (entry.path() != "./R0.race")
@@ -151,17 +75,15 @@ TEST_F(RaceListTest, ColumnsAreTurnedAsLongAsThereAreMore)
 TEST_F(RaceListTest, TheRaceChosenIsYellowAndOpensAsItWasLeft)
 {
     raceSetup.teamName[2] = "Rockets";
-    race.riders[11].isHuman = race.riders[8].isHuman = 1;
-    writeRaceOf("Tour.race", 2, 3);
-    writeRaceOf("Giro.race", 0, 1);
+    makeHuman(2);
+    writeRaceOf("Tour.race", 3);
+    writeRaceOf("Giro.race", 1);
     startProgram(1280, 1024);
-    player.click({CONTROL_CONTINUE, CONTROL_LIST_OK, CONTROL_LIST_SCORECARD});
-    EXPECT_EQ(gameState, STATE_RACE_FILES) << "no race is chosen";
+    raceSetup.multiStage = false; // raced last
+    player.click(CONTROL_CONTINUE);
     choose("Tour.race");
-    for (const DrawnText& text : drawnTexts())
-        if (raceListFrame().contains(text.place.x, text.place.y)) {
-            EXPECT_EQ(text.colour == pixelOf(YELLOW), text.words == "Tour") << text.words;
-        }
+    for (const DrawnText& text : textsAt(raceListFrame()))
+        EXPECT_EQ(text.colour == pixelOf(YELLOW), text.words == "Tour") << text.words;
     EXPECT_EQ(raceSetup.standingsFileName, "Tour.csv");
     EXPECT_EQ(racePreview.teamName[2], "Rockets");
     EXPECT_EQ(raceSetup.teamName[2], "Germany") << "not yet";
@@ -172,15 +94,13 @@ TEST_F(RaceListTest, TheRaceChosenIsYellowAndOpensAsItWasLeft)
     player.click(CONTROL_SHEET_OK);
     choose("Giro.race");
     EXPECT_EQ(view.scorecardStage, 0);
-
     choose("Tour.race");
     player.click(CONTROL_LIST_OK);
-    EXPECT_EQ(gameState, STATE_COURSE_SELECT);
     EXPECT_EQ(raceSetup.teamName[2], "Rockets");
     EXPECT_EQ(race.riders[11].isHuman, 1);
+    EXPECT_TRUE(raceSetup.multiStage);
     EXPECT_EQ(raceSetup.raceStages.size(), 3u);
     player.click(CONTROL_COURSE_BACK);
-    EXPECT_EQ(gameState, STATE_RACE_FILES);
     EXPECT_EQ(raceSetup.raceFileName, "Tour.race");
     player.click({CONTROL_LIST_BACK, CONTROL_CONTINUE});
     EXPECT_EQ(raceSetup.raceFileName, "") << "chosen anew each time";
@@ -197,15 +117,11 @@ TEST_F(RaceListTest, AnyFileIsListedAndMayBeChosen)
     for (const std::string& name : names) {
         choose(name);
         player.click({CONTROL_LIST_SCORECARD, CONTROL_SHEET_OK});
-        EXPECT_EQ(gameState, STATE_RACE_FILES);
         EXPECT_EQ(view.scorecardStage, 0);
     }
-    // The long name ends within its column.
     const Rect frame = raceListFrame();
-    for (const DrawnText& text : drawnTexts())
-        if (frame.contains(text.place.x, text.place.y)) {
-            EXPECT_LT(text.place.x + text.place.w, frame.x + layout.raceListColW) << text.words;
-        }
+    for (const DrawnText& text : textsAt(frame))
+        EXPECT_LT(text.place.x + text.place.w, frame.x + layout.raceListColW) << "in its column";
     EXPECT_EQ(shownFileName("Z\xC3\xBCrich"), "Z\xFCrich");
     EXPECT_EQ(shownFileName("Z\xFCrich"), "Z\xFCrich") << "no UTF-8: each byte a letter";
     EXPECT_EQ(shownFileName("a\nb\xC2\x85\x7F"), "a?b??");
@@ -215,23 +131,18 @@ TEST_F(RaceListTest, AnyFileIsListedAndMayBeChosen)
 // To go on without its stages would overwrite them.
 TEST_F(RaceListTest, ARaceThatCantBeReadStaysOnTheList)
 {
-    writeRaceOf("Tour.race", 0, 2);
+    writeRaceOf("Tour.race", 2);
     player.click(CONTROL_CONTINUE);
     choose("Tour.race");
     std::filesystem::rename("Tour.race", "away");
     player.click(CONTROL_LIST_OK);
     EXPECT_EQ(gameState, STATE_RACE_FILES);
-    EXPECT_EQ(raceList.raceFileList.size(), 0u);
-    std::filesystem::rename("away", "Tour.race");
-    player.click(CONTROL_LIST_OK);
-    EXPECT_EQ(raceSetup.raceStages.size(), 2u);
 }
 
-TEST_F(RaceListTest, ANewRaceNeedsANameThatIsNotTaken)
+TEST_F(TeamSetupTest, ANewRaceNeedsANameThatIsNotTaken)
 {
-    writeRaceOf("Tour 1.race", 0, 1);
+    writeRace("Tour 1.race");
     player.click({CONTROL_START, CONTROL_TEAM_OK});
-    ASSERT_EQ(gameState, STATE_SETUP_MESSAGE);
     EXPECT_EQ(teamSetup.setupMessages, Messages{"Enter a race name"});
     player.click(CONTROL_SETUP_MESSAGE_OK);
     player.click(raceNameBox());
@@ -243,8 +154,10 @@ TEST_F(RaceListTest, ANewRaceNeedsANameThatIsNotTaken)
     player.click(CONTROL_TEAM_OK);
     EXPECT_EQ(gameState, STATE_SETUP_MESSAGE) << "a link of that name is in the way, too";
     std::filesystem::remove("Tour 1\xC3\xBC.race");
+    raceSetup.raceStages.resize(3); // of a race looked at on the list
     player.click({CONTROL_SETUP_MESSAGE_OK, CONTROL_EVENT_CARDS, CONTROL_TEAM_OK});
     EXPECT_FALSE(raceSetup.eventCardsOn);
+    EXPECT_TRUE(raceSetup.raceStages.empty());
     EXPECT_EQ(gameState, STATE_COURSE_SELECT);
     EXPECT_EQ(raceSetup.raceFileName, "Tour 1\xC3\xBC.race") << "file names are UTF-8";
     EXPECT_EQ(raceSetup.standingsFileName, "Tour 1\xC3\xBC.csv");
@@ -255,24 +168,51 @@ TEST_F(RaceListTest, ANewRaceNeedsANameThatIsNotTaken)
     EXPECT_EQ(raceSetup.standingsFileName, "standings.csv");
 }
 
-TEST_F(RaceListTest, TheFieldsOfTheTeamSetupAreGoneThroughBothWays)
+TEST_F(TeamSetupTest, FieldsAreGoneThroughBothWays)
 {
     player.click(CONTROL_START);
-    for (const auto& [key, held, field] : {std::tuple{'\t', GLUT_ACTIVE_SHIFT, 4},
-                                           {'\t', GLUT_ACTIVE_SHIFT, 3},
-                                           {'\t', 0, 4},
-                                           {'\r', 0, 0}}) {
+    const auto fieldAfter = [&](char key, int held) {
         player.held = held;
         player.key(key);
-        EXPECT_EQ(teamSetup.teamActiveField, field);
-    }
+        return teamSetup.teamActiveField;
+    };
+    EXPECT_EQ(fieldAfter('\t', GLUT_ACTIVE_SHIFT), 4);
+    EXPECT_EQ(fieldAfter('\t', GLUT_ACTIVE_SHIFT), 3);
+    EXPECT_EQ(fieldAfter('\t', 0), 4);
+    EXPECT_EQ(fieldAfter('\r', 0), 0);
     player.click(raceNameBox());
     player.click(CONTROL_SINGLE_STAGE);
     EXPECT_EQ(teamSetup.teamActiveField, 3) << "the race has no name any more";
 }
 
+// A box is twelve characters wide.
+TEST_F(TeamSetupTest, ANameIsTypedAtTheCursorAndLosesWhatIsTooLong)
+{
+    player.click(CONTROL_START);
+    const std::string& name = raceSetup.teamName[0];
+    const auto expectAfter = [&](std::string_view keys, int special, const char* text, int cursor) {
+        player.type(keys);
+        player.special(special);
+        EXPECT_EQ(name, text) << keys;
+        EXPECT_EQ(teamSetup.teamCursor, cursor) << name;
+    };
+    constexpr int NO_KEY = GLUT_KEY_F1;
+    expectAfter("\177\177\177\177\177\177\177\177\b", NO_KEY, "", 0);
+    expectAfter("Rockets", GLUT_KEY_HOME, "Rockets", 0);
+    expectAfter("The -!", NO_KEY, "The -Rockets", 5);
+    expectAfter("x", GLUT_KEY_END, "The -xRocket", 11);
+    expectAfter("abc", NO_KEY, "The -xRockec", 11); // on the last place each overwrites
+    expectAfter("\b\177\177", GLUT_KEY_LEFT, "The -xRock", 9);
+    expectAfter("\b\177", GLUT_KEY_RIGHT, "The -xRo", 8);
+    for (const auto& [index, cursor] : {std::pair{2.5f, 2}, {9.5f, 0}}) {
+        const Rect box = teamNameBox(0);
+        player.click(Spot(box.x + index * box.w / 12.0f, box.y + 5.0f));
+        expectAfter("", NO_KEY, "The -xRo", cursor);
+    }
+}
+
 // The cursor stood behind a longer default name when the language was changed.
-TEST_F(RaceListTest, TheCursorStaysInAShorterName)
+TEST_F(TeamSetupTest, TheCursorStaysInAShorterName)
 {
     player.click(CONTROL_START);
     teamSetup.teamActiveField = 1;

@@ -1,53 +1,19 @@
-#include "app/game_state.h"
 #include "app/host.h"
-#include "app/view.h"
-#include "board/course.h"
 #include "board/designer.h"
+#include "board/geometry.h"
 #include "board/pictures.h"
 #include "board/section_shapes.h"
-#include "play/placing.h"
 #include "play/start.h"
-#include "race/race_state.h"
-#include "screen/support/gl_window.h"
 #include "screen/support/player.h"
-#include "support/fake_host.h"
 #include "ui/cameras.h"
 #include "ui/frame.h"
-#include "ui/layout.h"
 #include "ui/models.h"
-#include "ui/places.h"
 #include "ui/reshape.h"
 
-#include <gtest/gtest.h>
-
 #include <cmath>
-#include <cstdlib>
 
 namespace
 {
-
-// A race of four computer teams that waits for the first "Next".
-void startRaceOn(const char* text)
-{
-    startProgram(1280, 1024);
-    std::srand(7);
-    courseText = text;
-    startRace();
-}
-
-// Up to the first computer rider in motion.
-void goToFirstMove()
-{
-    while (gameState == STATE_ORDER_RESULT)
-        Player().click(CONTROL_NEXT);
-    ASSERT_EQ(gameState, STATE_ANIMATE);
-}
-
-void openCourses(int width, int height)
-{
-    startProgram(width, height);
-    Player().click({CONTROL_START, CONTROL_SINGLE_STAGE, CONTROL_TEAM_OK});
-}
 
 Pixel boardPixel(float x, float y)
 {
@@ -62,111 +28,112 @@ Pixel boardPixel(float x, float y)
 double distanceFromPicture(const Image& image, bool mirrored, bool upsideDown)
 {
     double sum = 0.0;
-    int count = 0;
-    for (float y = 20.0f; y < BOARD_HEIGHT; y += 17.0f) {
-        for (float x = 20.0f; x < BOARD_WIDTH; x += 23.0f) {
+    // Of the middle, since the perspective view cuts corners of the board off.
+    for (float y = 0.3f * BOARD_HEIGHT; y < 0.7f * BOARD_HEIGHT; y += 7.0f)
+        for (float x = 0.2f * BOARD_WIDTH; x < 0.8f * BOARD_WIDTH; x += 13.0f) {
             const ScreenPoint at = seenAt(x, y);
-            // The perspective view cuts corners of the board off.
-            if (at.x < layout.viewX + static_cast<int>(layout.boardViewX) + 2 || at.y < 20 ||
-                at.x > layout.viewX + static_cast<int>(layout.boardViewX + layout.boardViewW) - 2 ||
-                at.y > static_cast<int>(layout.hudY) - 10)
-                continue;
             const Pixel seen = image.at(at.x, at.y);
             const Pixel painted = boardPixel(mirrored ? BOARD_WIDTH - 1.0f - x : x,
                                              upsideDown ? BOARD_HEIGHT - 1.0f - y : y);
             sum += std::abs(seen.red - painted.red) + std::abs(seen.green - painted.green) +
                    std::abs(seen.blue - painted.blue);
-            ++count;
         }
-    }
-    return sum / count;
+    return sum;
 }
 
-void expectPictureInPlace()
+// Two squares side by side on a straight road, of which one hides the other from a camera.
+struct Neighbours {
+    int camera;
+    Square nearer, farther;
+};
+
+constexpr Neighbours NEIGHBOURS[] = {
+    {3, {1, 3}, {1, 4}},   {4, {29, 3}, {29, 2}}, {5, {30, 2}, {30, 1}}, {6, {100, 6}, {100, 5}},
+    {7, {58, 6}, {58, 7}}, {8, {26, 2}, {26, 3}}, {9, {74, 6}, {74, 7}}, {10, {40, 3}, {40, 2}},
+};
+
+// As a camera sees these riders.
+Image seenWith(int camera, const std::vector<Placed>& placed)
 {
-    const Image image = screenshot();
-    const double here = distanceFromPicture(image, false, false);
-    EXPECT_LT(here, 0.6 * distanceFromPicture(image, true, false)) << view.cameraIndex;
-    EXPECT_LT(here, 0.6 * distanceFromPicture(image, false, true)) << view.cameraIndex;
+    setUpRace(ONE_LAP, placed);
+    view.viewMode = VIEW_PERSPECTIVE;
+    view.cameraIndex = camera;
+    drawFrame();
+    return screenshot();
 }
+
+using Frame = ScreenTest;
+using Reshape = ScreenTest;
 
 } // namespace
 
-TEST(Frame, TheBoardLiesRightWayRoundUnderEveryCamera)
+TEST_F(Frame, TheBoardLiesRightWayRoundUnderEveryCamera)
 {
-    startRaceOn("01S23S4S5F12");
-    Player player;
-    for (int camera = 0; camera < 2; ++camera, player.click(CONTROL_CAMERA))
-        expectPictureInPlace();
-    player.click(CONTROL_VIEW);
-    for (int camera = 0; camera < 8; ++camera, player.click(CONTROL_CAMERA))
-        expectPictureInPlace();
+    startRaceOn(ONE_LAP);
+    Image last;
+    for (const int cameras : {2, PERSPECTIVE_CAMERA_COUNT}) {
+        for (int camera = 0; camera < cameras; ++camera, player.click(CONTROL_CAMERA)) {
+            const Image image = screenshot();
+            EXPECT_FALSE(image == last) << view.cameraIndex;
+            last = image;
+            const double asPainted = distanceFromPicture(image, false, false);
+            EXPECT_LT(asPainted, 0.6 * distanceFromPicture(image, true, false)) << view.cameraIndex;
+            EXPECT_LT(asPainted, 0.6 * distanceFromPicture(image, false, true)) << view.cameraIndex;
+        }
+        player.click(CONTROL_VIEW);
+    }
 }
 
 // Whatever a frame leaves behind, the next one isn't touched by it. A new race begins in flat view,
 // also when the last one was left in the other.
-TEST(Frame, LooksTheSameWheneverItIsPainted)
+TEST_F(Frame, LooksTheSameWheneverItIsPainted)
 {
-    startRaceOn("64S5F12");
+    startRaceOn(FROM_START_2);
     const Image first = screenshot();
     goToFirstMove();
     redrawNow();
     const Image flat = screenshot();
-    Player player;
     player.click(CONTROL_VIEW);
     const Image perspective = screenshot();
-    redrawNow();
-    EXPECT_TRUE(screenshot() == perspective);
     player.click({CONTROL_QUIT, CONTROL_QUIT_NO});
     EXPECT_TRUE(screenshot() == perspective);
     player.click(CONTROL_VIEW);
     EXPECT_TRUE(screenshot() == flat);
     player.click(CONTROL_VIEW);
-    std::srand(7);
-    startRace();
-    EXPECT_EQ(view.viewMode, VIEW_FLAT);
+    startRaceOn(FROM_START_2);
     EXPECT_TRUE(screenshot() == first);
-
-    windowOpen = false; // and without a window nothing is painted
-    gameState = STATE_TEAM_SETUP;
-    redrawNow();
-    EXPECT_TRUE(screenshot() == first);
-    windowOpen = true;
 }
 
-// Team 0's own pawn is looked for where its rider stands; the number stands below the middle.
-TEST(Frame, TheRiderOnTurnIsSeenAtEveryTick)
+// His team's own pawn is looked for where he stands; the number stands below the middle.
+TEST_F(Frame, TheRiderOnTurnIsSeenAtEveryTick)
 {
-    startRaceOn("01S23S4S5F12");
+    startRaceOn(ONE_LAP);
     goToFirstMove();
     const int rider = race.currentRider;
-    const Pixel colour = pixelOf(teamColour[riderTeam(rider)]);
     const Rider& now = race.riders[rider];
     BoardPoint last = {now.x, now.y};
     int moved = 0;
-    while (gameState == STATE_ANIMATE && runTick() && race.currentRider == rider) {
+    for (; gameState == STATE_ANIMATE && runTick() && race.currentRider == rider; ++moved) {
         const ScreenPoint at = seenAt(now.x, now.y - 9.0f);
-        EXPECT_EQ(screenshot().at(at.x, at.y), colour) << "tick " << moved;
-        EXPECT_LT(std::hypot(now.x - last.x, now.y - last.y), 15.0f) << "tick " << moved;
+        EXPECT_EQ(screenshot().at(at.x, at.y), pixelOf(teamColour[riderTeam(rider)])) << moved;
+        EXPECT_LT(std::hypot(now.x - last.x, now.y - last.y), 15.0f) << moved;
         last = {now.x, now.y};
-        ++moved;
     }
     EXPECT_GT(moved, 10);
 }
 
-TEST(Frame, TheCursorIsWhiteOnAFreeSquareAndRedOnATakenOne)
+TEST_F(Frame, TheCursorIsWhiteOnAFreeSquareAndRedOnATakenOne)
 {
-    for (const char* text : {"01S23S4S5F12", "64S5F12"}) {
+    // Near the cursor's edge on each start section.
+    const std::pair<std::string_view, BoardPoint> cursors[] = {{ONE_LAP, {970.0f, 166.0f}},
+                                                               {FROM_START_2, {676.0f, 1019.0f}}};
+    for (const auto& [text, point] : cursors) {
         startRaceOn(text);
         race.currentRider = 5;
-        race.firstPlacer = 4;
-        race.riders[5].isHuman = 1;
         gameState = STATE_PLACE_HUMAN;
         race.placingRow = 1;
         race.placingLane = firstStartLane() + 1;
-        const bool first = courseText.starts_with('0');
-        const ScreenPoint at = first ? seenAt(1117.0f - 1.5f * 98.25f, 210.0f - 1.2f * 36.6f)
-                                     : seenAt(1.5f * 99.0f + 528.0f, 1.2f * 37.0f + 975.0f);
+        const ScreenPoint at = seenAt(point.x, point.y);
         redrawNow();
         EXPECT_EQ(screenshot().at(at.x, at.y), pixelOf(WHITE)) << text;
 
@@ -179,7 +146,7 @@ TEST(Frame, TheCursorIsWhiteOnAFreeSquareAndRedOnATakenOne)
     }
 }
 
-TEST(Frame, AFigureShowsItsSideToEveryCameraAndIsLeftAloneInTheFlatView)
+TEST_F(Frame, AFigureShowsItsSideToEveryCameraAndIsLeftAloneInTheFlatView)
 {
     const double halfPi = std::acos(0.0);
     for (int i = 0; i < PERSPECTIVE_CAMERA_COUNT; ++i) {
@@ -193,21 +160,60 @@ TEST(Frame, AFigureShowsItsSideToEveryCameraAndIsLeftAloneInTheFlatView)
     }
     view.cameraIndex = 1;
     EXPECT_FALSE(figureTurned(977.0f, 576.0f, 0.0) || figureTurned(977.0f, 576.0f, halfPi));
-    view = {};
+}
+
+// Nothing of the nearer rider is hidden by the farther one, whichever of the two is drawn first.
+TEST_F(Frame, ARiderStandsInFrontOfTheOneBehindHimUnderEveryCamera)
+{
+    constexpr int GREEN = 0;
+    constexpr int RED = 4;
+    startProgram(640, 512);
+    for (const auto& [camera, nearer, farther] : NEIGHBOURS)
+        for (const int rider : {GREEN, RED}) {
+            const Placed front = {rider, nearer.row, nearer.lane};
+            const Placed back = {GREEN + RED - rider, farther.row, farther.lane};
+            const Image nobody = seenWith(camera, {});
+            const Image frontAlone = seenWith(camera, {front});
+            const Image backAlone = seenWith(camera, {back});
+            const Image both = seenWith(camera, {front, back});
+            int shared = 0;
+            int hidden = 0;
+            for (std::size_t i = 0; i < nobody.bytes.size(); ++i)
+                if (frontAlone.bytes[i] != nobody.bytes[i]) {
+                    shared += backAlone.bytes[i] != nobody.bytes[i];
+                    hidden += both.bytes[i] != frontAlone.bytes[i];
+                }
+            EXPECT_GT(shared, 60) << camera;
+            EXPECT_EQ(hidden, 0) << camera;
+        }
+}
+
+TEST_F(Frame, ARiderOffTheBoardIsNotSeenOnIt)
+{
+    const Image nobody = seenWith(FIRST_PERSPECTIVE_CAMERA, {});
+    seenWith(FIRST_PERSPECTIVE_CAMERA, {{0, FLAT.row, FLAT.lane}});
+    EXPECT_FALSE(screenshot() == nobody);
+    race.riders[0].offBoard = 1;
+    drawFrame();
+    EXPECT_TRUE(screenshot() == nobody);
 }
 
 // The window system reports the size asked for first and the one that the window gets after it.
-TEST(Reshape, TheSecondSizeLooksAsIfItHadBeenTheFirstAndIsClickedWhereItIsSeen)
+TEST_F(Reshape, TheSecondSizeLooksAsIfItHadBeenTheFirstAndIsClickedWhereItIsSeen)
 {
+    const auto openCourses = [&](int width, int height) {
+        startProgram(width, height);
+        player.click({CONTROL_START, CONTROL_SINGLE_STAGE, CONTROL_TEAM_OK});
+    };
     for (const auto& [width, height] :
          {std::pair{1920, 1080}, {1366, 768}, {1280, 1024}, {1024, 768}, {1500, 1000}}) {
         openCourses(width, height);
         const Image direct = screenshot();
         openCourses(1280, 960);
+        onReshape(1280, 0); // dragged to nothing, then minimised
+        onReshape(0, 0);
         resizeScreen(width, height);
         EXPECT_TRUE(screenshot() == direct) << width << " by " << height;
-
-        Player player;
         for (int i = 0; i < fixedCourses.size(); ++i) {
             player.hover(coursePicture(i));
             EXPECT_EQ(courseScreens.courseHover, i);
@@ -218,33 +224,15 @@ TEST(Reshape, TheSecondSizeLooksAsIfItHadBeenTheFirstAndIsClickedWhereItIsSeen)
     }
 }
 
-TEST(Reshape, ARiderInMotionGoesOnWhereHeWas)
+TEST_F(Reshape, ARiderInMotionGoesOnWhereHeWas)
 {
-    startRaceOn("01S23S4S5F12");
-    goToFirstMove();
-    for (int tick = 0; tick < 5; ++tick)
-        runTick();
-    ASSERT_EQ(gameState, STATE_ANIMATE);
-    const RaceState before = race;
+    startRaceOn(ONE_LAP);
+    goToFirstMove(5);
     const int pending = fakeHost.pendingMs;
-    const Image here = screenshot();
-
+    const Image image = screenshot();
     resizeScreen(1024, 768);
     EXPECT_EQ(gameState, STATE_ANIMATE);
-    EXPECT_EQ(race.riders[race.currentRider].x, before.riders[before.currentRider].x);
-    EXPECT_EQ(race.stepsTaken, before.stepsTaken);
     EXPECT_EQ(fakeHost.pendingMs, pending);
     resizeScreen(1280, 1024);
-    EXPECT_TRUE(screenshot() == here);
-}
-
-// Minimised, or dragged to nothing.
-TEST(Reshape, NoSizeAtAllIsSurvived)
-{
-    startProgram(640, 512);
-    const Image menu = screenshot();
-    onReshape(640, 0);
-    onReshape(0, 0);
-    resizeScreen(640, 512);
-    EXPECT_TRUE(screenshot() == menu);
+    EXPECT_TRUE(screenshot() == image);
 }

@@ -1,112 +1,72 @@
 #include "ui/layout.h"
 
 #include "app/settings.h"
-#include "ui/places.h"
 
 #include <gtest/gtest.h>
 
 #include <limits>
 #include <string>
-#include <vector>
+#include <tuple>
 
 namespace
 {
 
-class LayoutTest : public testing::Test
-{
-protected:
-    ~LayoutTest() override
-    {
-        settings = {};
-        layout = {};
-        ratioChosenByProgram = false;
-    }
+using Ratio = std::pair<double, double>;
+constexpr Ratio NO_RATIO = {-1.0, -1.0};
 
-    static void store(double ratioW, double ratioH)
-    {
-        settings.ratioW = ratioW;
-        settings.ratioH = ratioH;
-        ratioChosenByProgram = false;
-    }
-};
+// The ratio in a window of this size, if the settings have been read with this one.
+Ratio ratioIn(int windowW, int windowH, const Ratio& stored = NO_RATIO)
+{
+    std::tie(settings.ratioW, settings.ratioH) = stored;
+    ratioChosenByProgram = false;
+    computeLayout(windowW, windowH);
+    return {settings.ratioW, settings.ratioH};
+}
 
 } // namespace
 
-TEST_F(LayoutTest, TheDrawingAreaTakesTheRatioOfTheWindowOrTheNearestOne)
+TEST(LayoutTest, TheDrawingAreaTakesTheRatioOfTheWindowOrTheNearestOne)
 {
     struct Case {
         int windowW, windowH;
-        double ratioW, ratioH;
+        Ratio ratio;
         int viewW, viewX, viewH, viewY;
     };
     // clang-format off
     constexpr Case cases[] = {
-        // window      ratio        width   left  height   top
-        {1280, 1024,   5.0,  4.0,   1280,     0,   1024,     0},
-        {1280,  960,   4.0,  3.0,   1200,    40,    960,     0},
-        {1680, 1050,  16.0, 10.0,   1312,   184,   1050,     0},
-        {1920, 1080,  16.0, 10.0,   1350,   285,   1080,     0},
-        {1366,  768,  16.0, 10.0,    960,   203,    768,     0},
-        {3440, 1440,  16.0, 10.0,   1800,   820,   1440,     0},
-        {1500, 1000,  16.0, 10.0,   1250,   125,   1000,     0},
-        {1400, 1000,   4.0,  3.0,   1250,    75,   1000,     0},
-        {1080, 1920,   5.0,  4.0,   1080,     0,    864,   528},
+        // window      ratio          width   left  height   top
+        {1280, 1024,  { 5.0,  4.0},   1280,     0,   1024,     0},
+        {1280,  960,  { 4.0,  3.0},   1200,    40,    960,     0},
+        {1680, 1050,  {16.0, 10.0},   1312,   184,   1050,     0},
+        {1920, 1080,  {16.0, 10.0},   1350,   285,   1080,     0},
+        {1366,  768,  {16.0, 10.0},    960,   203,    768,     0},
+        {3440, 1440,  {16.0, 10.0},   1800,   820,   1440,     0},
+        {1500, 1000,  {16.0, 10.0},   1250,   125,   1000,     0},
+        {1400, 1000,  { 4.0,  3.0},   1250,    75,   1000,     0},
+        {1080, 1920,  { 5.0,  4.0},   1080,     0,    864,   528},
     };
     // clang-format on
     for (const Case& c : cases) {
         SCOPED_TRACE(std::to_string(c.windowW) + " by " + std::to_string(c.windowH));
-        store(-1.0, -1.0);
-        computeLayout(c.windowW, c.windowH);
-        EXPECT_EQ(settings.ratioW, c.ratioW);
-        EXPECT_EQ(settings.ratioH, c.ratioH);
+        EXPECT_EQ(ratioIn(c.windowW, c.windowH), c.ratio);
         EXPECT_EQ(layout.viewW, c.viewW);
         EXPECT_EQ(layout.viewX, c.viewX);
         EXPECT_EQ(layout.viewH, c.viewH);
         EXPECT_EQ(layout.viewY, c.viewY);
-        EXPECT_NEAR(aspectFix(), 1.0f, 0.001f);
     }
-    store(4.0, 3.0); // pixels are wider
-    computeLayout(1280, 1024);
+    ratioIn(1280, 1024, {4.0, 3.0}); // pixels are wider
     EXPECT_FLOAT_EQ(aspectFix(), 0.9375f);
-    store(16.0, 10.0); // of a wider window only the middle counts
-    computeLayout(1920, 1080);
-    EXPECT_EQ(layout.viewW, 1350);
-    store(5.0, 4.0);
-    computeLayout(1920, 1080);
+    EXPECT_NEAR(layout.boardViewH / layout.boardViewW, 0.629f, 0.001f) << "higher to look right";
+    ratioIn(1920, 1080, {5.0, 4.0}); // of a wider window only the middle counts
     EXPECT_EQ(layout.viewW, 1728);
 }
 
-TEST_F(LayoutTest, AStoredRatioIsKeptAndAnUnknownOneCountsAsNone)
+TEST(LayoutTest, AStoredRatioIsKeptAndAnUnknownOneCountsAsNone)
 {
-    store(5.0, 4.0);
-    computeLayout(1280, 960);
-    EXPECT_EQ(layout.viewW, 1280);
+    EXPECT_EQ(ratioIn(1280, 960, {5.0, 4.0}), Ratio(5.0, 4.0));
     const double nan = std::numeric_limits<double>::quiet_NaN();
-    const double unknown[][2] = {{16.0, 9.0}, {0.0, 0.0}, {5.0, -1.0}, {-1.0, 4.0}, {nan, nan}};
-    for (const auto& [ratioW, ratioH] : unknown) {
-        store(ratioW, ratioH);
-        computeLayout(1280, 960);
-        EXPECT_EQ(settings.ratioW, 4.0);
-        EXPECT_EQ(settings.ratioH, 3.0);
-    }
-}
-
-TEST_F(LayoutTest, AGuessFollowsTheWindowAndAChoiceStaysEvenIfItIsTheFirstGuessAgain)
-{
-    store(-1.0, -1.0);
-    computeLayout(0, 0); // not yet shown: nothing to go by
-    EXPECT_EQ(settings.ratioW, -1.0);
-    computeLayout(1280, 960);
-    EXPECT_EQ(settings.ratioW, 4.0);
-    computeLayout(1920, 1080); // full screen at last
-    EXPECT_EQ(settings.ratioW, 16.0);
-    computeLayout(1280, 960);
-    settings.ratioW = 5.0; // picked on the settings screen
-    settings.ratioH = 4.0;
-    computeLayout(1280, 960);
-    EXPECT_EQ(layout.viewW, 1280);
-    settings.ratioW = 4.0;
-    settings.ratioH = 3.0;
-    computeLayout(1920, 1080);
-    EXPECT_EQ(layout.viewW, 1620);
+    for (const Ratio& unknown :
+         {Ratio{16.0, 9.0}, {0.0, 0.0}, {5.0, -1.0}, {-1.0, 4.0}, {nan, nan}})
+        EXPECT_EQ(ratioIn(1280, 960, unknown), Ratio(4.0, 3.0));
+    EXPECT_EQ(ratioIn(0, 0), NO_RATIO) << "not yet shown: nothing to go by";
 }

@@ -5,6 +5,8 @@
 
 #include <GL/gl.h>
 
+#include <algorithm>
+
 static std::vector<DrawnText>* noting = nullptr;
 static bool boxed = false;
 
@@ -49,11 +51,23 @@ std::vector<DrawnText> drawnTexts()
     return texts;
 }
 
+std::vector<DrawnText> textsAt(const Rect& place)
+{
+    std::vector<DrawnText> texts = drawnTexts();
+    std::erase_if(
+        texts, [&](const DrawnText& text) { return !place.contains(text.place.x, text.place.y); });
+    return texts;
+}
+
 std::string wordsAt(const Rect& place)
 {
     std::string words;
-    for (const DrawnText& text : drawnTexts())
-        if (place.contains(static_cast<int>(text.place.x), static_cast<int>(text.place.y)))
-            words += (words.empty() ? "" : "|") + text.words;
+    for (const DrawnText& text : textsAt(place))
+        words += (words.empty() ? "" : "|") + text.words;
     return words;
+}
+
+bool screenSays(const std::string& words)
+{
+    return std::ranges::count(drawnTexts(), words, &DrawnText::words) > 0;
 }

@@ -15,8 +15,11 @@ struct DrawnText {
     bool onBox; // of the dialog or the score sheet, which lie on top
 };
 
-// Paints a frame and tells its texts, in the order in which they were drawn.
+// Paints a frame and tells its texts, in the order in which they were drawn; those that begin
+// within a place of the drawing area; and their words, with a bar between texts.
 std::vector<DrawnText> drawnTexts();
-
-// The words of a frame that begin within a place of the drawing area, with a bar between texts.
+std::vector<DrawnText> textsAt(const Rect& place);
 std::string wordsAt(const Rect& place);
+
+// Whether just these words stand somewhere.
+bool screenSays(const std::string& words);

@@ -28,6 +28,7 @@
 #include <GL/glext.h>
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
@@ -36,18 +37,10 @@ static unsigned frameBuffer = 0;
 static unsigned colourBuffer = 0;
 static unsigned depthBuffer = 0;
 
-static void loadPictures()
+int main(int argc, char** argv)
 {
-    const std::filesystem::path here = std::filesystem::current_path();
-    std::filesystem::current_path(SOURCE_DIR "/data");
-    if (!loadTextures())
-        std::exit(1);
-    std::filesystem::current_path(here);
-}
-
-static void openTestWindow(int* argc, char** argv)
-{
-    glutInit(argc, argv);
+    testing::InitGoogleTest(&argc, argv);
+    glutInit(&argc, argv);
     glutInitDisplayMode(GLUT_DOUBLE | GLUT_DEPTH);
     glutInitWindowSize(64, 64);
     glutCreateWindow("Gravelon tests");
@@ -55,10 +48,15 @@ static void openTestWindow(int* argc, char** argv)
     glGenFramebuffers(1, &frameBuffer);
     glGenRenderbuffers(1, &colourBuffer);
     glGenRenderbuffers(1, &depthBuffer);
-    loadPictures();
+    const std::filesystem::path here = std::filesystem::current_path();
+    std::filesystem::current_path(SOURCE_DIR "/data");
+    if (!loadTextures())
+        std::exit(1);
+    std::filesystem::current_path(here);
+    return RUN_ALL_TESTS();
 }
 
-static void sizeBuffers(int width, int height)
+void resizeScreen(int width, int height)
 {
     glBindRenderbuffer(GL_RENDERBUFFER, colourBuffer);
     glRenderbufferStorage(GL_RENDERBUFFER, GL_RGBA8, width, height);
@@ -71,11 +69,6 @@ static void sizeBuffers(int width, int height)
         std::fputs("This OpenGL can't paint into memory.\n", stderr);
         std::exit(1);
     }
-}
-
-void resizeScreen(int width, int height)
-{
-    sizeBuffers(width, height);
     onReshape(width, height);
 }
 
@@ -127,41 +120,22 @@ Image screenshot()
 {
     Image image{layout.windowW, layout.windowH, {}};
     const std::size_t row = 3 * static_cast<std::size_t>(image.width);
-    std::vector<std::uint8_t> upsideDown(row * static_cast<std::size_t>(image.height));
+    image.bytes.resize(row * static_cast<std::size_t>(image.height));
     glPixelStorei(GL_PACK_ALIGNMENT, 1);
-    glReadPixels(0, 0, image.width, image.height, GL_RGB, GL_UNSIGNED_BYTE, upsideDown.data());
-    for (auto end = upsideDown.end(); end != upsideDown.begin();) {
-        const auto begin = end - static_cast<std::ptrdiff_t>(row);
-        image.bytes.insert(image.bytes.end(), begin, end);
-        end = begin;
-    }
+    std::uint8_t* line = image.bytes.data();
+    for (int y = image.height - 1; y >= 0; --y, line += row)
+        glReadPixels(0, y, image.width, 1, GL_RGB, GL_UNSIGNED_BYTE, line);
     return image;
 }
 
 static int byteOf(float part)
 {
-    return static_cast<int>(part * 255.0f + 0.5f);
+    return static_cast<int>(std::lrint(part * 255.0f));
 }
 
-Pixel pixelOf(const Colour& colour, float brightness)
+Pixel pixelOf(const Colour& colour)
 {
-    return {byteOf(colour.red * brightness), byteOf(colour.green * brightness),
-            byteOf(colour.blue * brightness)};
-}
-
-bool closeTo(Pixel a, Pixel b, int tolerance)
-{
-    return std::abs(a.red - b.red) <= tolerance && std::abs(a.green - b.green) <= tolerance &&
-           std::abs(a.blue - b.blue) <= tolerance;
-}
-
-int countPixels(const Image& image, const Rect& rect, Pixel pixel)
-{
-    int count = 0;
-    for (float y = rect.y; y < rect.y + rect.h; y += 1.0f)
-        for (float x = rect.x; x < rect.x + rect.w; x += 1.0f)
-            count += closeTo(image.at(x, y), pixel, 1) ? 1 : 0;
-    return count;
+    return {byteOf(colour.red), byteOf(colour.green), byteOf(colour.blue)};
 }
 
 ScreenPoint seenAt(float boardX, float boardY)
@@ -170,17 +144,9 @@ ScreenPoint seenAt(float boardX, float boardY)
         static_cast<int>(layout.boardViewX) + layout.viewX, static_cast<int>(layout.boardViewY),
         static_cast<int>(layout.boardViewW), static_cast<int>(layout.boardViewH)};
     const Matrix& modelview = matrices.modelviewMatrices[view.viewMode == VIEW_FLAT ? 0 : 1];
-    double x = 0.0;
-    double y = 0.0;
-    double z = 0.0;
+    double seen[3] = {};
     gluProject(static_cast<double>(boardX), static_cast<double>(boardY), 0.0, modelview.begin(),
-               matrices.projectionMatrices[view.cameraIndex].begin(), viewport, &x, &y, &z);
-    return {static_cast<int>(x), layout.windowH - 1 - static_cast<int>(y)};
-}
-
-int main(int argc, char** argv)
-{
-    testing::InitGoogleTest(&argc, argv);
-    openTestWindow(&argc, argv);
-    return RUN_ALL_TESTS();
+               matrices.projectionMatrices[view.cameraIndex].begin(), viewport, &seen[0], &seen[1],
+               &seen[2]);
+    return {static_cast<int>(seen[0]), layout.windowH - 1 - static_cast<int>(seen[1])};
 }

@@ -37,13 +37,7 @@ struct Image {
 
 Image screenshot();
 
-Pixel pixelOf(const Colour& colour, float brightness = 1.0f);
-
-// How many pixels of a rectangle of the drawing area have this colour.
-int countPixels(const Image& image, const Rect& rect, Pixel pixel);
-
-// Whether the two differ by no more in any part.
-bool closeTo(Pixel a, Pixel b, int tolerance);
+Pixel pixelOf(const Colour& colour);
 
 // Where a point of the board is seen, in pixels of the screen.
 struct ScreenPoint {

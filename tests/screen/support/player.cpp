@@ -2,66 +2,50 @@
 
 #include "input/keyboard.h"
 #include "input/mouse.h"
-#include "race/race_state.h"
-#include "ui/layout.h"
-#include "ui/places.h"
+#include "play/start.h"
 
-#include <GL/freeglut.h>
-
-static int windowX(float x)
-{
-    return layout.viewX + static_cast<int>(x);
-}
-
-static int windowY(float y)
-{
-    return layout.viewY + static_cast<int>(y);
-}
+#include <cstdlib>
 
 static int now = 0; // ms
 static int heldNow = 0;
 
-void Player::press(float x, float y)
+// How long a click holds the button, which tells nothing of how quickly it is pressed again.
+constexpr int HOLD_MS = 60;
+
+// Calls back with a place in pixels of the window.
+template <typename Callback, typename... What>
+static void callAt(Spot at, Callback callback, What... what)
 {
-    now += pace;
+    callback(what..., layout.viewX + static_cast<int>(at.x), layout.viewY + static_cast<int>(at.y));
+}
+
+void Player::press(Spot at, int button)
+{
+    now += pace - HOLD_MS;
     mouseClock = [] { return now; };
-    onMouse(GLUT_LEFT_BUTTON, GLUT_DOWN, windowX(x), windowY(y));
+    callAt(at, onMouse, button, GLUT_DOWN);
 }
 
-void Player::release(float x, float y)
+void Player::release(Spot at, int button)
 {
-    onMouse(GLUT_LEFT_BUTTON, GLUT_UP, windowX(x), windowY(y));
+    now += HOLD_MS;
+    callAt(at, onMouse, button, GLUT_UP);
 }
 
-void Player::press(const Rect& at)
+void Player::dragTo(Spot at)
 {
-    press(at.x + at.w * 0.5f, at.y + at.h * 0.5f);
+    callAt(at, onDrag);
 }
 
-void Player::release(const Rect& at)
+void Player::hover(Spot at)
 {
-    release(at.x + at.w * 0.5f, at.y + at.h * 0.5f);
+    callAt(at, onHover);
 }
 
-void Player::hold(int ms)
+void Player::click(Spot at, int button)
 {
-    now += ms;
-}
-
-void Player::dragTo(float x, float y)
-{
-    onDrag(windowX(x), windowY(y));
-}
-
-void Player::click(const Rect& at, int button)
-{
-    if (button == GLUT_LEFT_BUTTON) {
-        press(at);
-        release(at);
-        return;
-    }
-    for (const int pressed : {GLUT_DOWN, GLUT_UP})
-        onMouse(button, pressed, windowX(at.x + at.w * 0.5f), windowY(at.y + at.h * 0.5f));
+    press(at, button);
+    release(at, button);
 }
 
 void Player::click(std::initializer_list<Control> controls)
@@ -77,35 +61,34 @@ void Player::doubleClick(Control control)
     click(control);
 }
 
-void Player::hover(const Rect& at)
-{
-    onHover(windowX(at.x + at.w * 0.5f), windowY(at.y + at.h * 0.5f));
-}
-
 static void holdModifiers(int held)
 {
     heldNow = held;
     heldModifiers = [] { return heldNow; };
 }
 
-void Player::press(char key)
+void Player::keyDown(char key)
 {
     holdModifiers(held);
     onKeyDown(static_cast<unsigned char>(key), 0, 0);
 }
 
-void Player::release(char key)
+void Player::keyUp(char key)
 {
     holdModifiers(held);
     onKeyUp(static_cast<unsigned char>(key), 0, 0);
 }
 
+void Player::key(char key)
+{
+    keyDown(key);
+    keyUp(key);
+}
+
 void Player::type(std::string_view keys)
 {
-    for (const char key : keys) {
-        press(key);
-        release(key);
-    }
+    for (const char pressed : keys)
+        key(pressed);
 }
 
 void Player::special(std::initializer_list<int> glutKeys)
@@ -115,18 +98,35 @@ void Player::special(std::initializer_list<int> glutKeys)
         onSpecialUp(key, 0, 0);
 }
 
-bool overlap(const Rect& a, const Rect& b)
+void ScreenTest::startRaceOn(std::string_view text)
 {
-    constexpr float TOUCH = 0.01f;
-    return a.x + a.w > b.x + TOUCH && b.x + b.w > a.x + TOUCH && a.y + a.h > b.y + TOUCH &&
-           b.y + b.h > a.y + TOUCH;
+    std::srand(7);
+    courseText = text;
+    startRace();
+}
+
+void ScreenTest::goToFirstMove(int ticks)
+{
+    while (gameState == STATE_ORDER_RESULT)
+        player.click(CONTROL_NEXT);
+    for (; ticks > 0; --ticks)
+        runTick();
+    ASSERT_EQ(gameState, STATE_ANIMATE);
+}
+
+std::vector<Control> everyControl()
+{
+    std::vector<Control> all;
+    for (int control = 0; control < CONTROL_COUNT; ++control)
+        all.push_back(static_cast<Control>(control));
+    return all;
 }
 
 std::vector<Rect> everyPlace()
 {
     std::vector<Rect> all;
-    for (int control = 0; control < CONTROL_COUNT; ++control)
-        all.push_back(placeOf(static_cast<Control>(control)));
+    for (const Control control : everyControl())
+        all.push_back(placeOf(control));
     const auto add = [&all](Rect (*place)(int), int count) {
         for (int i = 0; i < count; ++i)
             all.push_back(place(i));

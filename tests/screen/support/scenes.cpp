@@ -1,20 +1,14 @@
 #include "screen/support/scenes.h"
 
-#include "app/game_state.h"
-#include "app/host.h"
 #include "app/settings.h"
-#include "app/view.h"
-#include "board/course.h"
 #include "board/designer.h"
 #include "board/geometry.h"
 #include "input/actions.h"
 #include "play/cards.h"
 #include "play/doping.h"
 #include "play/movement.h"
-#include "play/overlays.h"
 #include "play/start.h"
 #include "race/event_deck.h"
-#include "race/race_state.h"
 #include "screen/support/gl_window.h"
 #include "store/courses_file.h"
 #include "store/race_file.h"
@@ -26,26 +20,30 @@
 #include "ui/team_setup.h"
 #include "ui/texts.h"
 
-#include <cstdlib>
 #include <filesystem>
 
 namespace
 {
 
-constexpr const char* COURSE = "01S23S4S5F12";
+// What there is before the texts are those of the language: a race, and whose turn it is.
 
-template <bool OF_A_PERSON> void throwForOrder()
+void nothing() {}
+
+void computersThrow()
 {
-    startSeededRace(COURSE, 11);
-    if (!OF_A_PERSON)
-        return;
+    startSeededRace(ONE_LAP, 11);
+}
+
+void personThrows()
+{
+    computersThrow();
     makeHuman(0);
     startRace();
 }
 
 void computersMove()
 {
-    throwForOrder<false>();
+    computersThrow();
     while (gameState == STATE_ORDER_RESULT)
         advanceComputerRace();
     for (int tick = 0; tick < 3; ++tick)
@@ -55,26 +53,61 @@ void computersMove()
 // In round 2, a few riders on a flat road, the second right behind the first.
 void personsRide()
 {
-    setUpPersonsRace(COURSE, {{0, 10, 0}, {4, 8, 0}, {3, 5, 2}, {14, 4, 3}});
-    for (int index = 0; index < RIDER_COUNT; ++index) {
-        Rider& rider = race.riders[index];
+    setUpPersonsRace(ONE_LAP, {{0, 10, 0}, {4, 8, 0}, {3, 5, 2}, {14, 4, 3}});
+    for (Rider& rider : race.riders) {
         const BoardPoint at = boardPointOfSquare(rider.row, rider.lane, rider.heading);
         rider.x = at.x;
         rider.y = at.y;
     }
 }
 
-void personsLead()
+void personsTurn()
 {
     personsRide();
-    beginPersonsMove(0, 1);
+    beginPersonsTurn(0);
+}
+
+template <int RIDER, int MOVES> void personSteers()
+{
+    personsRide();
+    beginPersonsMove(RIDER, MOVES);
     steer("M");
+}
+
+void personLeads()
+{
+    personSteers<0, 1>();
     endHumanMove();
 }
 
+void personDraws()
+{
+    personsTurn();
+    race.dice = {3, 4};
+    race.movesTotal = race.moveBudget = 7;
+    race.pathSquares[0] = {10.0f, 0.0f};
+    for (int card = 0; card < EVENT_CARD_COUNT; ++card)
+        deck.eventDeck[card] = (card + 14) % EVENT_CARD_COUNT;
+    deck.eventCardPos = 0;
+}
+
+void personMissesTurns()
+{
+    personDraws();
+    race.eventRider = 0;
+    race.riders[0].skipTurns = 2;
+}
+
+void personDopes()
+{
+    personsTurn();
+    race.dopingNumber[0] = 4;
+}
+
+// What is done with it in the state of the scene.
+
 void openSettingsField()
 {
-    openSettings();
     settings.stepDistance = 345.0f;
     settingsBackup = settings;
     fillSettingsFields(settings);
@@ -84,28 +117,28 @@ void openSettingsField()
 
 void setUpTeams()
 {
-    raceSetup.multiStage = true;
     raceSetup.teamName[1] = "Ab c";
     teamSetup.teamActiveField = 1;
     teamSetup.teamCursor = 2;
-    gameState = STATE_TEAM_SETUP;
 }
 
-void chooseCourse()
+void failSetup()
 {
-    courseText = "64S5F";
-    saveDesign();
-    courseText.clear();
-    returnState = STATE_TEAM_SETUP;
-    gameState = STATE_COURSE_SELECT;
+    setUpTeams();
+    raceSetup.teamName = {};
+    confirmTeamSetup();
 }
 
-template <bool FINISHED> void design()
+void design()
 {
-    courseText = FINISHED ? "01S23S4S5F" : "01S23";
-    courseScreens.designChoice = !FINISHED;
-    courseScreens.saveFailed = FINISHED;
-    gameState = STATE_COURSE_DESIGN;
+    courseText = "01S23";
+    courseScreens.designChoice = 1;
+}
+
+void finishDesign()
+{
+    courseText = "01S23S4S5F";
+    courseScreens.saveFailed = true;
 }
 
 void browse()
@@ -116,7 +149,12 @@ void browse()
     }
     courseScreens.savedCourseIndex = 1;
     courseText = readSavedCourse(1);
-    gameState = STATE_COURSE_SAVED;
+}
+
+void chooseCourse()
+{
+    browse();
+    courseText.clear();
 }
 
 void place()
@@ -124,7 +162,21 @@ void place()
     race.currentRider = 0;
     race.placingRow = 1;
     race.placingLane = firstStartLane() + 1;
-    gameState = STATE_PLACE_HUMAN;
+}
+
+void takeDope()
+{
+    gameState = STATE_DOPING_NUMBER;
+    takeDopingCard();
+    race.bonusMoves = WHITE_CARD;
+    race.extraDie = 3;
+    race.extraMoves = 4;
+}
+
+void receiveCard()
+{
+    gameState = STATE_EVENT_CARD_KIND;
+    receiveWonCard(WHITE_CARD);
 }
 
 void finish()
@@ -132,57 +184,6 @@ void finish()
     for (int slot = 0; slot < RESULT_SLOT_COUNT; ++slot)
         race.resultSlots[slot] = slot * 5 % RIDER_COUNT;
     raceSetup.standingsFileName = "standings.csv";
-    gameState = STATE_FINAL_SCORECARD;
-}
-
-void draw14()
-{
-    beginPersonsTurn(0);
-    race.dice = {3, 4};
-    race.movesTotal = race.moveBudget = 7;
-    race.pathSquares[0] = {10.0f, 0.0f};
-    for (int card = 0; card < EVENT_CARD_COUNT; ++card)
-        deck.eventDeck[card] = (card + 14) % EVENT_CARD_COUNT;
-    deck.eventCardPos = 0;
-    gameState = STATE_EVENT_CARD;
-}
-
-template <GameState STATE> void answerEvent()
-{
-    draw14();
-    gameState = STATE;
-}
-
-void missTurns()
-{
-    answerEvent<STATE_SKIP_HANDIN>();
-    race.eventRider = 0;
-    race.riders[0].skipTurns = 2;
-    pickCard(12);
-}
-
-void missTurnsWithoutCard()
-{
-    answerEvent<STATE_SKIP_NO_CARD>();
-    race.eventRider = 0;
-    race.riders[0].skipTurns = 2;
-    race.cardUsed[0] = filled<int, CARD_SLOT_COUNT>(CARD_SPENT);
-}
-
-void dope()
-{
-    beginPersonsTurn(0);
-    race.dopingNumber[0] = 4;
-    gameState = STATE_DOPING_NUMBER;
-}
-
-void takeDope()
-{
-    dope();
-    takeDopingCard();
-    race.bonusMoves = WHITE_CARD;
-    race.extraDie = 3;
-    race.extraMoves = 4;
 }
 
 void control()
@@ -193,7 +194,6 @@ void control()
     race.dopingDraw = {3, 1};
     race.anyDoping = 1;
     race.currentRider = -1;
-    gameState = STATE_DOPING_DRAW;
 }
 
 void countercheck()
@@ -202,7 +202,6 @@ void countercheck()
     race.currentRider = 2;
     race.counterDie = 5;
     race.riders[2].disqualified = 1;
-    gameState = STATE_DOPING_COUNTERCHECK;
 }
 
 void rideTwoStages()
@@ -212,7 +211,6 @@ void rideTwoStages()
     record.slots = race.resultSlots;
     raceSetup.multiStage = true;
     raceSetup.raceName = raceSetup.raceBaseName = "Tour";
-    raceSetup.standingsFileName = "standings.csv";
     raceSetup.raceStages = {record, record};
 }
 
@@ -220,16 +218,13 @@ void failToSave()
 {
     rideTwoStages();
     raceSetup.raceFileName = "no such folder here/Tour.race";
-    returnState = STATE_RACE_CLOSED;
-    gameState = STATE_SAVE_FAILED;
 }
 
-void openSecondStage()
+template <bool GENERAL> void openSecondStage()
 {
     rideTwoStages();
-    returnState = STATE_TURN;
     view.scorecardStage = 1;
-    gameState = STATE_SCORECARD;
+    view.scorecardGeneral = GENERAL;
 }
 
 // On the second of seven columns.
@@ -250,7 +245,6 @@ void listRaces()
     raceSetup.standingsFileName.clear();
     openRaceList();
     raceList.raceListPage = 1;
-    gameState = STATE_RACE_FILES;
 }
 
 void chooseFromList()
@@ -264,71 +258,82 @@ void openStandings()
 {
     chooseFromList();
     raceSetup.standingsFileName = "standings.csv";
-    returnState = STATE_RACE_FILES;
-    gameState = STATE_RACE_STANDINGS;
 }
 
-void nothing() {}
-
-// What sets up the race, and what is done once the texts are those of the language.
 struct SceneRecord {
     const char* name;
+    GameState state;
     void (*race)();
-    void (*act)();
+    void (*act)() = nothing;
+    GameState behind = STATE_TRANSIT; // what it leads back to
 };
 
 // clang-format off
-constexpr Table<SceneRecord, SCENE_COUNT> scenes = {{
-    {"menu",            nothing,        [] { gameState = STATE_MAIN_MENU; }},
-    {"languages",       nothing,        [] { gameState = STATE_LANGUAGE; }},
-    {"manual",          nothing,        [] { manualPage = 1; gameState = STATE_MANUAL; }},
-    {"settings",        nothing,        openSettingsField},
-    {"teams",           nothing,        setUpTeams},
-    {"teams_named",     nothing,        [] { setUpTeams(); raceSetup.multiStage = false; }},
-    {"setup_message",   nothing,        [] { setUpTeams(); raceSetup.teamName = {}; confirmTeamSetup(); }},
-    {"courses",         nothing,        chooseCourse},
-    {"design",          nothing,        design<false>},
-    {"design_finished", nothing,        design<true>},
-    {"saved",           nothing,        browse},
-    {"order_throw",     throwForOrder<true>,   nothing},
-    {"order_result",    throwForOrder<false>, nothing},
-    {"place",           throwForOrder<true>,   place},
-    {"turn",            personsRide,    [] { beginPersonsTurn(0); }},
-    {"turn_with_card",  personsRide,    [] { beginPersonsTurn(0); pickCard(12); toggleBreakaway(); }},
-    {"move",            personsRide,    [] { beginPersonsMove(3, 6); stepRider('M'); }},
-    {"animate",         computersMove,  [] { view.shownTeam = 0; }},
-    {"follow",          personsLead,    nothing},
-    {"no_move",         personsRide,    [] { beginPersonsTurn(0); gameState = STATE_NO_MOVE; }},
-    {"quit",            throwForOrder<false>, openQuitConfirm},
-    {"final",           throwForOrder<false>, finish},
-    {"event_card",      personsRide,    draw14},
-    {"card_kind",       personsRide,    answerEvent<STATE_EVENT_CARD_KIND>},
-    {"card_when",       personsRide,    [] { answerEvent<STATE_EVENT_CARD_KIND>(); receiveWonCard(WHITE_CARD); }},
-    {"event_die",       personsRide,    answerEvent<STATE_EVENT_DIE>},
-    {"event_handin",    personsRide,    [] { answerEvent<STATE_EVENT_HANDIN>(); pickCard(12); }},
-    {"event_no_card",   personsRide,    answerEvent<STATE_EVENT_NO_CARD>},
-    {"handin",          personsRide,    missTurns},
-    {"skip_no_card",    personsRide,    missTurnsWithoutCard},
-    {"doping",          personsRide,    [] { beginPersonsTurn(0); openOverlay(STATE_CONFIRM_DOPING); }},
-    {"doping_number",   personsRide,    dope},
-    {"doped",           personsRide,    takeDope},
-    {"doping_draw",     personsRide,    control},
-    {"countercheck",    personsRide,    countercheck},
-    {"save_failed",     throwForOrder<false>, failToSave},
-    {"scorecard",       personsRide,    openSecondStage},
-    {"general",         personsRide,    [] { openSecondStage(); view.scorecardGeneral = true; }},
-    {"positions",       personsRide,    [] { beginPersonsTurn(0); openPositions(); }},
-    {"races",           nothing,        listRaces},
-    {"race_chosen",     nothing,        chooseFromList},
-    {"standings",       nothing,        openStandings},
-}};
+constexpr SceneRecord scenes[] = {
+    {"menu",            STATE_MAIN_MENU,           nothing},
+    {"languages",       STATE_LANGUAGE,            nothing},
+    {"manual",          STATE_MANUAL,              nothing,        [] { manualPage = 1; }},
+    {"settings",        STATE_SETTINGS,            nothing,        openSettingsField, STATE_MAIN_MENU},
+    {"teams",           STATE_TEAM_SETUP,          nothing,        setUpTeams},
+    {"teams_named",     STATE_TEAM_SETUP,          nothing,        [] { setUpTeams(); raceSetup.multiStage = false; }},
+    {"setup_message",   STATE_SETUP_MESSAGE,       nothing,        failSetup},
+    {"courses",         STATE_COURSE_SELECT,       nothing,        chooseCourse, STATE_TEAM_SETUP},
+    {"design",          STATE_COURSE_DESIGN,       nothing,        design},
+    {"design_finished", STATE_COURSE_DESIGN,       nothing,        finishDesign},
+    {"saved",           STATE_COURSE_SAVED,        nothing,        browse},
+    {"order_throw",     STATE_ORDER_THROW,         personThrows},
+    {"order_result",    STATE_ORDER_RESULT,        computersThrow},
+    {"place",           STATE_PLACE_HUMAN,         personThrows,   place},
+    {"turn",            STATE_TURN,                personsTurn},
+    {"turn_with_card",  STATE_TURN,                personsTurn,    [] { pickCard(12); toggleBreakaway(); }},
+    {"move",            STATE_MOVE,                personSteers<3, 6>},
+    {"animate",         STATE_ANIMATE,             computersMove,  [] { view.shownTeam = 0; }},
+    {"follow",          STATE_FOLLOW_PROMPT,       personLeads},
+    {"no_move",         STATE_NO_MOVE,             personsTurn},
+    {"quit",            STATE_CONFIRM_QUIT,        computersThrow, nothing, STATE_ORDER_RESULT},
+    {"final",           STATE_FINAL_SCORECARD,     computersThrow, finish},
+    {"event_card",      STATE_EVENT_CARD,          personDraws},
+    {"card_kind",       STATE_EVENT_CARD_KIND,     personDraws},
+    {"card_when",       STATE_EVENT_CARD_WHEN,     personDraws,    receiveCard},
+    {"event_die",       STATE_EVENT_DIE,           personDraws},
+    {"event_handin",    STATE_EVENT_HANDIN,        personDraws,    [] { pickCard(12); }},
+    {"event_no_card",   STATE_EVENT_NO_CARD,       personDraws},
+    {"handin",          STATE_SKIP_HANDIN,         personMissesTurns, [] { pickCard(12); }},
+    {"skip_no_card",    STATE_SKIP_NO_CARD,        personMissesTurns, [] { leaveCards(0, {}); }},
+    {"doping",          STATE_CONFIRM_DOPING,      personsTurn,    nothing, STATE_TURN},
+    {"doping_number",   STATE_DOPING_NUMBER,       personDopes},
+    {"doped",           STATE_TURN,                personDopes,    takeDope},
+    {"doping_draw",     STATE_DOPING_DRAW,         personsRide,    control},
+    {"countercheck",    STATE_DOPING_COUNTERCHECK, personsRide,    countercheck},
+    {"save_failed",     STATE_SAVE_FAILED,         computersThrow, failToSave, STATE_RACE_CLOSED},
+    {"scorecard",       STATE_SCORECARD,           personsRide,    openSecondStage<false>, STATE_TURN},
+    {"general",         STATE_SCORECARD,           personsRide,    openSecondStage<true>, STATE_TURN},
+    {"positions",       STATE_POSITIONS,           personsTurn,    nothing, STATE_TURN},
+    {"races",           STATE_RACE_FILES,          nothing,        listRaces},
+    {"race_chosen",     STATE_RACE_FILES,          nothing,        chooseFromList},
+    {"standings",       STATE_RACE_STANDINGS,      nothing,        openStandings, STATE_RACE_FILES},
+};
 // clang-format on
+static_assert(std::size(scenes) == static_cast<int>(Scene::STANDINGS) + 1);
+
+const SceneRecord& recordOf(Scene scene)
+{
+    return scenes[static_cast<std::size_t>(scene)];
+}
 
 } // namespace
 
+std::vector<Scene> everyScene()
+{
+    std::vector<Scene> all;
+    for (std::size_t i = 0; i < std::size(scenes); ++i)
+        all.push_back(static_cast<Scene>(i));
+    return all;
+}
+
 const char* nameOf(Scene scene)
 {
-    return scenes[scene].name;
+    return recordOf(scene).name;
 }
 
 void setScene(Scene scene, int language)
@@ -337,9 +342,10 @@ void setScene(Scene scene, int language)
     const double ratioH = settings.ratioH;
     std::filesystem::remove("courses");
     forgetEverything();
-    gameState = STATE_MAIN_MENU;
-    scenes[scene].race();
+    recordOf(scene).race();
     settings = {.language = language, .ratioW = ratioW, .ratioH = ratioH};
     loadTexts();
-    scenes[scene].act();
+    gameState = recordOf(scene).state;
+    returnState = recordOf(scene).behind;
+    recordOf(scene).act();
 }
