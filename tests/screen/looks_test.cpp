@@ -182,18 +182,6 @@ TEST_F(Looks, TheCourseUnderThePointerHasAFrame)
     EXPECT_EQ(edge(), 0);
 }
 
-TEST_F(Looks, NobodyIsSeenOnTheBoardWhoIsOffIt)
-{
-    setScene(Scene::TURN, LANGUAGE_ENGLISH);
-    const Image all = boardSeen();
-    race.riders[14].finished = 1;
-    const Image without = boardSeen();
-    EXPECT_FALSE(alike(all, without, around(14)));
-    race.riders[14].finished = 0;
-    race.riders[14].offBoard = 1;
-    EXPECT_TRUE(boardSeen() == without);
-}
-
 TEST_F(Looks, TheSprintWinnerStandsOutAndOnThePodium)
 {
     setScene(Scene::TURN, LANGUAGE_ENGLISH);
@@ -216,16 +204,4 @@ TEST_F(Looks, TheSprintWinnerStandsOutAndOnThePodium)
     EXPECT_FALSE(green == red) << "in his team's colour on the podium";
     const Image nobody = seen(0, -1);
     EXPECT_FALSE(alike(green, nobody, around(0)));
-}
-
-TEST_F(Looks, TheBoardIsTurnedRoundByTheSecondCameraAndKeepsItsShape)
-{
-    startRaceOn(ONE_LAP);
-    const Image upright = boardSeen();
-    player.click(CONTROL_CAMERA);
-    EXPECT_FALSE(boardSeen() == upright);
-    settings.ratioW = 16.0;
-    settings.ratioH = 9.0;
-    resizeScreen(1280, 1023);
-    EXPECT_NEAR(layout.boardViewW / (layout.boardViewH * aspectFix()), 1954.0f / 1152.0f, 0.01f);
 }
