@@ -11,8 +11,8 @@ extern Table<unsigned, 7> textureNames;
 // stream. A score sheet that can't be read shows whatever the buffer held.
 bool loadTextures();
 
-// Builds the smaller copies of the board that a view at a slant takes its far half from. To be called
-// before each such view; all but the first cost nothing.
+// Builds the smaller copies of the board that a view at a slant takes its far half from. To be
+// called before each such view; all but the first cost nothing.
 void buildBoardMipmaps();
 
 // Draws the picture of a section (0 to 8) or of a fixed course (0 to 3), which have been painted by

@@ -47,6 +47,17 @@ TEST_F(Mouse, ThrowsForTheOrderAreAsQuickAsTheHand)
     }
 }
 
+// The pointer lies elsewhere by then.
+TEST_F(Mouse, ACourseThatWasPointedAtOnceIsForgotten)
+{
+    player.click({CONTROL_START, CONTROL_SINGLE_STAGE, CONTROL_TEAM_OK});
+    player.hover(coursePicture(2));
+    player.key('b');
+    player.click(CONTROL_TEAM_OK);
+    player.release({5.0f, 5.0f});
+    EXPECT_EQ(gameState, STATE_COURSE_SELECT);
+}
+
 TEST_F(Mouse, ADoubleClickThatFinishesADesignStartsNoRace)
 {
     player.click({CONTROL_START, CONTROL_SINGLE_STAGE, CONTROL_TEAM_OK});

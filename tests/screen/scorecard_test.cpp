@@ -1,6 +1,7 @@
 #include "play/overlays.h"
 #include "screen/support/drawn_texts.h"
 #include "screen/support/player.h"
+#include "store/golden_files.h"
 #include "ui/frame.h"
 #include "ui/score_pages.h"
 
@@ -131,7 +132,9 @@ TEST_F(Scorecard, AnExportIsToldAndOkForgetsItAndLetsTheMoveGoOn)
     std::filesystem::remove("Twelve chars.csv");
     player.key('x');
     EXPECT_TRUE(screenSays("Standings written to \"Twelve chars.csv\"."));
-    EXPECT_TRUE(std::filesystem::exists("Twelve chars.csv"));
+    const std::string sheet = bytesOfFile("Twelve chars.csv");
+    EXPECT_NE(sheet.find("Standings stage 3"), sheet.npos);
+    EXPECT_NE(sheet.find("Result stage 1"), sheet.npos);
     player.click(CONTROL_SHEET_OK);
     EXPECT_EQ(gameState, STATE_ANIMATE);
     EXPECT_EQ(view.exportStatus, EXPORT_NONE);
