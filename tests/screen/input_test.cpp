@@ -213,8 +213,8 @@ TEST_F(Keyboard, TabGoesRoundTheTeams)
     player.key('\t');
     EXPECT_EQ(view.shownTeam, 1);
     player.held = GLUT_ACTIVE_SHIFT;
-    player.type("\t\t");
-    EXPECT_EQ(view.shownTeam, 3);
+    player.type("\t\t\t");
+    EXPECT_EQ(view.shownTeam, 2);
 }
 
 TEST_F(Keyboard, FunctionKeysLayTheCardsOfTheRiderOnTurn)

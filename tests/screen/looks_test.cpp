@@ -182,6 +182,18 @@ TEST_F(Looks, TheCourseUnderThePointerHasAFrame)
     EXPECT_EQ(edge(), 0);
 }
 
+TEST_F(Looks, ALineLeadsFromARiderInHisColourThatIsDimOffTheBoard)
+{
+    for (const int offBoard : {0, 1}) {
+        setScene(Scene::POSITIONS, LANGUAGE_ENGLISH);
+        race.riders[4].offBoard = offBoard;
+        const Image image = boardSeen();
+        const Rect map = {0.0f, 20.0f, 1279.0f, 640.0f};
+        EXPECT_EQ(count(image, map, pixelOf(teamColour[1])) > 0, offBoard == 0);
+        EXPECT_EQ(count(image, map, pixelOf(teamColourDim[1])) > 0, offBoard == 1);
+    }
+}
+
 TEST_F(Looks, TheSprintWinnerStandsOutAndOnThePodium)
 {
     setScene(Scene::TURN, LANGUAGE_ENGLISH);
