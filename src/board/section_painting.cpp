@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstring>
+#include <span>
 
 Picture boardPicture{.width = BOARD_PICTURE_WIDTH, .height = BOARD_PICTURE_HEIGHT, .bytes = {}};
 Table<Picture, SECTION_COUNT> sectionPixels;
@@ -38,8 +39,18 @@ struct Box {
 struct RoadMask {
     std::vector<std::uint8_t> pixels =
         std::vector<std::uint8_t>(BOARD_PICTURE_WIDTH * BOARD_PICTURE_HEIGHT, MASK_OUTSIDE);
-    Box box; // of the piece in work
+    Box box;                             // of the piece in work
+    int firstRow = BOARD_PICTURE_HEIGHT; // of all pieces
+    int endRow = 0;
 };
+
+// Where the road of a section lies; elsewhere its picture is that of any other section.
+struct RowRange {
+    int first = 0;
+    int end = BOARD_PICTURE_HEIGHT;
+};
+
+Table<RowRange, SECTION_COUNT> roadRows;
 
 std::uint8_t* maskPixel(RoadMask& mask, int x, int y)
 {
@@ -164,6 +175,8 @@ void fillOutline(RoadMask& mask)
         std::uint8_t* row = maskPixel(mask, 0, y);
         std::replace(row + xMin, row + xMax + 1, MASK_OUTLINE, MASK_ROAD);
     }
+    mask.firstRow = std::min(mask.firstRow, yMin);
+    mask.endRow = std::max(mask.endRow, yMax + 1);
     mask.box = {};
 }
 
@@ -243,12 +256,12 @@ void halveOutside(Picture& picture, const RoadMask& mask)
 // Most of two pictures of the same board is equal: such blocks are told from
 // the others at once.
 template <std::size_t COMPONENTS>
-void mergePixels(std::vector<std::uint8_t>& target, const std::vector<std::uint8_t>& source)
+void mergePixels(std::span<std::uint8_t> target, const std::uint8_t* source)
 {
     constexpr std::size_t BLOCK = 64 * COMPONENTS;
     for (std::size_t begin = 0; begin < target.size(); begin += BLOCK) {
         std::uint8_t* to = target.data() + begin;
-        const std::uint8_t* from = source.data() + begin;
+        const std::uint8_t* from = source + begin;
         const std::size_t count = std::min(BLOCK, target.size() - begin);
         if (std::memcmp(to, from, count) == 0)
             continue;
@@ -258,12 +271,20 @@ void mergePixels(std::vector<std::uint8_t>& target, const std::vector<std::uint8
     }
 }
 
-} // namespace
-
-void paintSectionPicture(Picture& picture, int section)
+// From byte first to end - 1 of both, which stand at the beginning of pixels.
+void mergeBytes(Picture& target, const Picture& source, std::size_t first, std::size_t end)
 {
-    if (picture.bytes.size() != pictureSize(picture.components))
+    if (target.components != source.components || target.bytes.size() != source.bytes.size())
         return;
+    const std::span<std::uint8_t> bytes = std::span(target.bytes).subspan(first, end - first);
+    if (target.components == 4)
+        mergePixels<4>(bytes, source.bytes.data() + first);
+    else
+        mergePixels<3>(bytes, source.bytes.data() + first);
+}
+
+RoadMask roadOf(int section)
+{
     RoadMask mask;
     const SectionShape& shape = sectionShape(section);
     for (const CurvePiece& piece : shape.curves)
@@ -274,33 +295,59 @@ void paintSectionPicture(Picture& picture, int section)
     }
     for (const MaskPolygon& polygon : shape.masks)
         paintPolygon(mask, polygon);
+    return mask;
+}
 
-    halveOutside(picture, mask);
+std::size_t rowBegin(int row)
+{
+    return static_cast<std::size_t>(row * BOARD_PICTURE_WIDTH * 3);
+}
+
+// What merging into black comes to: where there is no red nothing is brighter.
+void mergeIntoBlack(Picture& target, const Picture& source)
+{
+    target = source;
+    for (std::size_t i = 0; i + 3 <= target.bytes.size(); i += 3)
+        if (target.bytes[i] == 0)
+            target.bytes[i + 1] = target.bytes[i + 2] = 0;
+}
+
+} // namespace
+
+void paintSectionPicture(Picture& picture, int section)
+{
+    if (picture.bytes.size() == pictureSize(picture.components))
+        halveOutside(picture, roadOf(section));
 }
 
 void mergeBrightest(Picture& target, const Picture& source)
 {
-    if (target.components != source.components || target.bytes.size() != source.bytes.size())
-        return;
-    if (target.components == 4)
-        mergePixels<4>(target.bytes, source.bytes);
-    else
-        mergePixels<3>(target.bytes, source.bytes);
+    mergeBytes(target, source, 0, target.bytes.size());
 }
 
 void paintSection(int section)
 {
+    const RoadMask road = roadOf(section);
     sectionPixels[section] = boardPicture;
-    paintSectionPicture(sectionPixels[section], section);
+    if (boardPicture.bytes.size() != pictureSize(boardPicture.components))
+        return;
+    halveOutside(sectionPixels[section], road);
+    roadRows[section] = {road.firstRow, road.endRow};
 }
 
 void paintCourse(int index, std::string_view text)
 {
     Picture& picture = coursePixels[index];
     picture = {.width = BOARD_PICTURE_WIDTH, .height = BOARD_PICTURE_HEIGHT, .bytes = {}};
-    picture.bytes.assign(pictureSize(picture.components), 0);
     for (const char character : text.substr(0, text.find('F'))) {
-        if (character >= '0' && character < '0' + SECTION_COUNT)
-            mergeBrightest(picture, sectionPixels[character - '0']);
+        if (character < '0' || character >= '0' + SECTION_COUNT)
+            continue;
+        const int section = character - '0';
+        if (picture.bytes.empty())
+            mergeIntoBlack(picture, sectionPixels[section]);
+        else
+            mergeBytes(picture, sectionPixels[section], rowBegin(roadRows[section].first),
+                       rowBegin(roadRows[section].end));
     }
+    picture.bytes.resize(pictureSize(picture.components)); // black, if it has no section
 }
