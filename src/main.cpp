@@ -81,10 +81,17 @@ static void onReport(int, int)
     onReshape(glutGet(GLUT_WINDOW_WIDTH), glutGet(GLUT_WINDOW_HEIGHT));
 }
 
+// While loading, onIdleLoad paints as often as it is worth it.
+static void onDisplay()
+{
+    if (gameState != STATE_LOADING)
+        drawFrame();
+}
+
 static void registerCallbacks()
 {
     glutReshapeFunc(onReport);
-    glutDisplayFunc(drawFrame);
+    glutDisplayFunc(onDisplay);
     glutIdleFunc(onIdleLoad);
     glutMouseFunc(onMouse);
     glutMotionFunc(onDrag);

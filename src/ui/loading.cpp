@@ -18,17 +18,19 @@ constexpr int FRAME_MS = 16; // no screen shows more of the bar than that
 // Once is enough: pixels don't depend on the layout.
 static bool sectionPaintDone = false;
 
+static void showProgress()
+{
+    static int lastFrame = glutGet(GLUT_ELAPSED_TIME);
+    const int now = glutGet(GLUT_ELAPSED_TIME);
+    const bool last = loadingProgress.courses == FIXED_COURSE_COUNT;
+    if (!last && now - lastFrame < FRAME_MS)
+        return;
+    lastFrame = now;
+    redrawNow();
+}
+
 static void paintPictures()
 {
-    int lastFrame = glutGet(GLUT_ELAPSED_TIME);
-    const auto showProgress = [&lastFrame] {
-        const int now = glutGet(GLUT_ELAPSED_TIME);
-        const bool last = loadingProgress.courses == FIXED_COURSE_COUNT;
-        if (!last && now - lastFrame < FRAME_MS)
-            return;
-        lastFrame = now;
-        redrawNow();
-    };
     loadingProgress = {};
     for (int section = 0; section < SECTION_COUNT; ++section) {
         paintSection(section);
@@ -54,8 +56,10 @@ static bool sizeSettled()
 
 void onIdleLoad()
 {
-    if (layout.viewW <= 0 || layout.viewH <= 0 || !sizeSettled())
+    if (layout.viewW <= 0 || layout.viewH <= 0)
         return;
+    if (!sizeSettled())
+        return showProgress();
     if (!sectionPaintDone)
         paintPictures();
     glutIdleFunc(nullptr);
