@@ -1,47 +1,93 @@
 #!/usr/bin/env bash
-# A stage of four computer teams from the first click to the final scorecard and out again, with
-# nothing but clicks on "Start", "Single stage", "OK", a course, "Next", "OK" and "Quit".
+# A race of two stages between computers: the first from the first click to the final scorecard, its
+# standings exported; then the program ends, starts again, and goes on from the race's file.
 set -eu
 # shellcheck source=tests/support/window.sh
 . "$(dirname "$0")/../support/window.sh"
 
+head=57
+stage=116
+
+sizeIs() { [ "$(stat -c %s "$1" 2> /dev/null)" = "$2" ]; }
+
+# Whether the first name on the list is yellow.
+raceChosen()
+{
+    import -silent -window root -crop "120x16+$((1280 / 5))+$((1024 / 5 + 4))" -depth 8 txt:- |
+        grep -q '#FFFF00'
+}
+
+setUpRace()
+{
+    click start
+    until_ 5 "the team setup" setupOpen
+    click setupOk
+    until_ 5 "the want of a race name" dialogOpen
+    xdotool key o
+    until_ 5 "the team setup again" setupOpen
+    click raceName
+    xdotool type --delay 60 "Story 1"
+    shot setup
+    click setupOk
+}
+
+chooseCourse()
+{
+    until_ 5 "the courses" coursesOpen
+    point firstCourse
+    until_ 5 "the frame round the course" pixelIs courseFrame FFFFFF
+    shot courses
+    click firstCourse
+    until_ 10 "the race" throwOpen
+}
+
+playStage()
+{
+    local end=$((SECONDS + 240))
+    while ! sheetOpen; do
+        [ $SECONDS -lt $end ] || fail "the stage does not end"
+        kill -0 "$gamePid" || fail "the program ended in the race"
+        if dialogOpen; then
+            shot dialog
+            click dialogOk
+        elif throwOpen; then
+            click throw
+        fi
+    done
+}
+
 startGame "$1" "$2" "$fast"
-shot menu
-
 expectIdle "the main menu"
-
-click start
-until_ 5 "the team setup" setupOpen
-shot setup
-chooseOneStage
-point firstCourse
-until_ 5 "the frame round the course" pixelIs courseFrame FFFFFF
-shot courses
-click firstCourse
-until_ 10 "the race" throwOpen
-shot order
-
+setUpRace
+chooseCourse
 untilChanged "the perspective view" click toggle
 shot perspective
 untilChanged "the flat view" click toggle
-
-shots=0
-while ! sheetOpen; do
-    [ $SECONDS -lt 240 ] || fail "the race does not end"
-    kill -0 "$gamePid" || fail "the program ended in the race"
-    if dialogOpen; then
-        shot dialog
-        click dialogOk
-    elif throwOpen; then
-        click throw
-    elif [ $((SECONDS / 10)) -gt $shots ]; then
-        shots=$((SECONDS / 10))
-        shot "race$shots"
-    fi
-done
+playStage
+until_ 5 "the stage in the file" sizeIs "run/Story 1.race" $((head + stage))
+xdotool key x
+until_ 5 "the standings" test -s "run/Story 1.csv"
 shot scorecard
 click sheetOk
 until_ 5 "the main menu" menuOpen
 click corner
+expectEnd
+
+startAgain "$1"
+xdotool key c
+until_ 5 "the list of races" pixelIs listOkEdge B2B2B2
+! raceChosen || fail "a race is chosen before anybody has"
+click firstRace
+until_ 5 "the race chosen" raceChosen
+shot list
+xdotool key s
+until_ 5 "the standings" sheetOpen
+untilChanged "the general classification" xdotool key g
+xdotool key o
+until_ 5 "the list again" pixelIsNot sheetTitle 000080
+xdotool key o
+chooseCourse
+quitRace
+xdotool key e
 expectEnd
 echo "A race took $SECONDS seconds."
