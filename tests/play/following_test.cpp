@@ -141,13 +141,6 @@ TEST(Following, ARiderALapAheadFollowsOnHisOwnLap)
     expectYes(9); // the line goes on a lap behind
     EXPECT_EQ(squareOfRider(9), (Square{105, 5}));
     EXPECT_EQ(occupant(106, 5), -1);
-
-    // Behind the first row there is but the end of a lap.
-    setUpPersonsRace(TWO_LAPS, {{0, 0, 2}, {4, 108, 5}, {9, 0, 4}});
-    lead(0, "MM");
-    expectYes(4);
-    EXPECT_EQ(squareOfRider(4), (Square{110, 5}));
-    EXPECT_EQ(race.currentRider, 9);
 }
 
 TEST(Following, FollowersCrossTheFinishBehindTheLeader)
