@@ -6,49 +6,39 @@
 
 #include <gtest/gtest.h>
 
-// Where each of these steps leads.
-struct Step {
-    Square from;
-    char letter;
-    Square to;
-};
-
-static void expectSteps(std::initializer_list<Step> steps)
+static Square step(Square from, char letter)
 {
-    for (const auto& [from, letter, to] : steps)
-        EXPECT_EQ(stepTarget(from.row, from.lane, letter, false), to)
-            << from.row << ' ' << from.lane << letter;
+    return stepTarget(from.row, from.lane, letter, false);
 }
 
 TEST(StepRule, RowsWithoutASquareCostNothingAndRidersAndEdgesStop)
 {
     setUpRace(TWO_LAPS, {{3, 8, 2}, {4, 13, 0}});
-    expectSteps({{{8, 1}, 'L', {10, 0}},
-                 {{76, 4}, 'M', {98, 4}}, // across the seam of two sections
-                 {{44, 1}, 'M', NO_STEP}, // the lane ends
-                 {{44, 1}, 'R', {47, 2}},
-                 {{7, 0}, 'L', NO_STEP},
-                 {{7, 2}, 'M', NO_STEP},   // rider 3
-                 {{116, 5}, 'M', NO_STEP}, // a lap ahead of him
-                 {{7, 2}, 'L', {8, 1}},
-                 {{10, 0}, 'M', NO_STEP}, // rider 4, behind two rows without squares
-                 {{course.courseRowCount - 1, 8}, 'M', NO_STEP}});
+    EXPECT_EQ(step({8, 1}, 'L'), (Square{10, 0}));
+    EXPECT_EQ(step({76, 4}, 'M'), (Square{98, 4})); // across the seam of two sections
+    EXPECT_EQ(step({44, 1}, 'M'), NO_STEP);         // the lane ends
+    EXPECT_EQ(step({44, 1}, 'R'), (Square{47, 2}));
+    EXPECT_EQ(step({7, 0}, 'L'), NO_STEP);
+    EXPECT_EQ(step({7, 2}, 'M'), NO_STEP);   // rider 3
+    EXPECT_EQ(step({116, 5}, 'M'), NO_STEP); // a lap ahead of him
+    EXPECT_EQ(step({7, 2}, 'L'), (Square{8, 1}));
+    EXPECT_EQ(step({10, 0}, 'M'), NO_STEP); // rider 4, behind two rows without squares
     liftOffBoard(4);
-    expectSteps({{{10, 0}, 'M', {13, 0}}});
+    EXPECT_EQ(step({10, 0}, 'M'), (Square{13, 0}));
+    EXPECT_EQ(step({course.courseRowCount - 1, 8}, 'M'), NO_STEP);
 }
 
 TEST(StepRule, WallsStopChangesOfLaneFromTheirFirstRowToTheLastButOne)
 {
     setUpRace(TWO_LAPS, {});
-    expectSteps({{{19, 2}, 'L', {22, 1}}, // the row before
-                 {{20, 4}, 'L', NO_STEP},
-                 {{28, 3}, 'R', NO_STEP},
-                 {{28, 2}, 'L', NO_STEP},
-                 {{28, 2}, 'R', {29, 3}}, // no wall here
-                 {{28, 2}, 'M', {29, 2}},
-                 {{29, 2}, 'L', {30, 1}}, // where they end
-                 {{29, 3}, 'R', {30, 4}},
-                 {{28 + ROWS_PER_LAP, 2 + LANES_PER_LAP}, 'L', NO_STEP}});
+    EXPECT_EQ(step({19, 2}, 'L'), (Square{22, 1})); // the row before
+    EXPECT_EQ(step({20, 4}, 'L'), NO_STEP);
+    EXPECT_EQ(step({28, 3}, 'R'), NO_STEP);
+    EXPECT_EQ(step({28, 2}, 'L'), NO_STEP);
+    EXPECT_EQ(step({28 + ROWS_PER_LAP, 2 + LANES_PER_LAP}, 'L'), NO_STEP);
+    EXPECT_EQ(step({28, 2}, 'R'), (Square{29, 3})); // no wall here
+    EXPECT_EQ(step({29, 2}, 'L'), (Square{30, 1})); // where they end
+    EXPECT_EQ(step({29, 3}, 'R'), (Square{30, 4}));
 }
 
 TEST(Steering, RefusedStepsCostNothingAndUndoGoesBackToTheStart)
