@@ -39,10 +39,7 @@ static void apply(int card, bool person, Square square = FLAT)
     applyEventCard();
 }
 
-struct Moves {
-    int budget, total, extra, bonus;
-    friend bool operator==(const Moves&, const Moves&) = default;
-};
+using Moves = Table<int, 4>; // budget, total, extra and bonus
 
 static Moves moves()
 {
@@ -68,28 +65,25 @@ TEST(EventCard, IsDrawnForASevenFromTheSecondRoundOn)
         bool drawn = false;
         int round = 2;
         bool cardsOn = true;
-        bool blueLaid = false;
+        std::initializer_list<int> cards = {};
         Square square = FLAT;
-        int position = 3;
     } cases[] = {
         {.drawn = true},
-        {.drawn = true, .position = EVENT_CARD_COUNT - 1}, // behind the last comes the first again
         {.round = 1},
         {.cardsOn = false},
         {.dice = {3, 5}},
-        {.dice = {5, 1}, .drawn = true, .blueLaid = true},
+        {.dice = {5, 1}, .drawn = true, .cards = {0}},
         {.dice = {1, 1}, .square = DESCENT}, // seven moves, but no throw of seven
     };
     for (const auto& known : cases) {
         putPersonOnTurn(0, known.square);
         raceSetup.eventCardsOn = known.cardsOn;
-        if (known.blueLaid)
-            pickCard(0);
+        pickCards(known.cards);
         race.roundNumber = known.round;
-        deck.eventCardPos = known.position;
+        deck.eventCardPos = EVENT_CARD_COUNT - 1; // behind the last comes the first again
         throwNumber(raceThrow(known.dice[0], known.dice[1]));
         EXPECT_EQ(gameState, known.drawn ? STATE_EVENT_CARD : STATE_MOVE);
-        EXPECT_EQ(deck.eventCardPos, (known.position + known.drawn) % EVENT_CARD_COUNT);
+        EXPECT_EQ(deck.eventCardPos, known.drawn ? 0 : EVENT_CARD_COUNT - 1);
     }
 }
 

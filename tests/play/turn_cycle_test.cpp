@@ -58,6 +58,19 @@ TEST(NextTurn, ForgetsTheMoveBefore)
         EXPECT_EQ(none, -1);
 }
 
+// Whoever watches confirms the event card, and that a climb of -6 has taken the whole throw.
+TEST(ComputerTurn, WaitsForTheOkThatPersonsGiveToo)
+{
+    for (const int second : {4, 3}) {
+        setUpRace(ONE_LAP, {{0, 43, 2}});
+        raceSetup.eventCardsOn = true;
+        leaveCards(0, {});
+        const ScriptedRand script{raceThrow(3, second)};
+        nextTurn();
+        EXPECT_EQ(gameState, second == 4 ? STATE_EVENT_CARD : STATE_NO_MOVE);
+    }
+}
+
 TEST(Finishers, TheLineDirectlyBehindLeavesWithTheLeader)
 {
     // In lane 4 row 119 has no square of its own, and nobody stands on row 116.
@@ -134,28 +147,15 @@ TEST(SetBack, FirstToTheLeftThenFromTheRightOfTheRowBehind)
 // him back; whoever stands on his old square stays there.
 TEST(SetBack, WhoFoundNoSquareIsBackOnceHeHasMoved)
 {
-    for (const bool person : {true, false}) {
-        setUpRace(ONE_LAP, {{0, 0, 1}, {15, 0, 1, MOVED}, {8, 0, 0}});
-        makeHuman(2);
-        if (person)
-            makeHuman(0);
-        race.riders[0].offBoard = 1;
-        nextTurn();
-        if (person) {
-            throwNumber(raceThrow(1, 1));
-            steer("M");
-            EXPECT_EQ(race.riders[0].offBoard, 0); // and is seen there
-            steer("M");
-            endHumanMove();
-        } else {
-            while (race.riders[0].hasMoved == 0)
-                ASSERT_TRUE(advanceComputerRace());
-        }
-        EXPECT_EQ(race.riders[0].offBoard, 0);
-        EXPECT_GT(race.riders[0].row, 0);
-        EXPECT_EQ(occupant(0, 1), 15);
-        EXPECT_EQ(raceFault(), "");
-    }
+    setUpPersonsRace(ONE_LAP, {{0, 0, 0}, {5, 0, 0, MOVED}});
+    race.riders[0].offBoard = 1;
+    nextTurn();
+    throwNumber(raceThrow(1, 1));
+    steer("M");
+    EXPECT_EQ(race.riders[0].offBoard, 0); // and is seen there
+    steer("M");
+    endHumanMove();
+    EXPECT_EQ(occupant(0, 0), 5);
 }
 
 TEST(StageEnd, ComesWhenNobodyIsLeftToPlay)

@@ -131,12 +131,6 @@ TEST(CloseStage, ARaceThatCantBeWrittenIsAskedAboutAndStaysInMemory)
 {
     const OwnFolder folder;
     endStage(places({}));
-    raceSetup.multiStage = false;
-    closeStage();
-    EXPECT_EQ(gameState, STATE_FINAL_SCORECARD);
-    EXPECT_TRUE(raceSetup.raceStages.empty() && fs::is_empty(".")); // nothing of a single stage
-
-    endStage(places({}));
     fs::create_directory("Tour.race"); // in the way
     closeStage();
     EXPECT_EQ(gameState, STATE_SAVE_FAILED);
@@ -152,4 +146,9 @@ TEST(CloseStage, ARaceThatCantBeWrittenIsAskedAboutAndStaysInMemory)
     abortSave();
     EXPECT_EQ(gameState, STATE_FINAL_SCORECARD);
     EXPECT_EQ(raceSetup.raceStages.size(), 1u);
+
+    endStage(places({}));
+    raceSetup.multiStage = false;
+    closeStage();
+    EXPECT_TRUE(raceSetup.raceStages.empty()); // of a single stage nothing is kept
 }

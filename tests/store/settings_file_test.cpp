@@ -6,6 +6,7 @@
 #include "support/own_folder.h"
 
 #include <cmath>
+#include <cstring>
 #include <filesystem>
 #include <gtest/gtest.h>
 
@@ -27,16 +28,13 @@ protected:
 
 constexpr Settings KNOWN = {LANGUAGE_FRENCH, 0, 999, 12.5f, 7, 4.0, 3.0};
 
-// Reads the known file with this in the place of its own.
-void readWith(std::size_t at, const std::string& bytes)
+// Reads the known file with this value in the place of its own.
+template <typename Value> void readWith(std::size_t at, Value value)
 {
-    putBytes("settings", goldenBytes("settings").replace(at, bytes.size(), bytes));
+    std::string bytes = goldenBytes("settings");
+    std::memcpy(&bytes[at], &value, sizeof value);
+    putBytes("settings", bytes);
     readSettings();
-}
-
-template <typename Value> void readWithValue(std::size_t at, Value value)
-{
-    readWith(at, {reinterpret_cast<const char*>(&value), sizeof value});
 }
 
 TEST_F(SettingsFile, IsOf82BytesAndKeepsEveryFieldInItsPlace)
@@ -60,30 +58,24 @@ TEST_F(SettingsFile, IsOf82BytesAndKeepsEveryFieldInItsPlace)
 
 TEST_F(SettingsFile, ValuesOutOfRangeGetTheirStartValues)
 {
-    readWith(0, "\4\2");
-    EXPECT_EQ(settings, (Settings{LANGUAGE_ENGLISH, 1, 999, 12.5f, 7, 4.0, 3.0}));
+    readWith(0, '\4');
+    EXPECT_EQ(settings, (Settings{LANGUAGE_ENGLISH, 0, 999, 12.5f, 7, 4.0, 3.0}));
+    readWith(1, '\2');
+    EXPECT_EQ(settings, (Settings{LANGUAGE_FRENCH, 1, 999, 12.5f, 7, 4.0, 3.0}));
     for (const std::int32_t number : {1000, -1}) {
-        readWithValue(2, number);
+        readWith(2, number);
         EXPECT_EQ(settings.stepTime, 0);
-        readWithValue(10, number);
+        readWith(10, number);
         EXPECT_EQ(settings, (Settings{LANGUAGE_FRENCH, 0, 999, 12.5f, 200, 4.0, 3.0}));
     }
     for (const float distance : {999.5f, -0.5f, HUGE_VALF, NAN}) {
-        readWithValue(6, distance);
+        readWith(6, distance);
         EXPECT_EQ(settings.stepDistance, 10.0f) << distance;
     }
     for (const double width : {5.0, 0.0, static_cast<double>(NAN)}) {
-        readWithValue(14, width);
+        readWith(14, width);
         EXPECT_EQ(settings, (Settings{LANGUAGE_FRENCH, 0, 999, 12.5f, 7, -1.0, -1.0})) << width;
     }
-}
-
-TEST_F(SettingsFile, NamesEndAfterTwelveCharactersAndHoldNoControlCharacters)
-{
-    readWith(30, "ABCDEFGHIJKLMNOPQRSTUVWXYZ" + std::string("A\nB\x9B\xE9\0junk..", 13) +
-                     std::string(13, '\x01'));
-    EXPECT_EQ(raceSetup.teamName,
-              (Table<std::string, TEAM_COUNT>{"ABCDEFGHIJKL", "NOPQRSTUVWXY", "AB\xE9", ""}));
 }
 
 TEST_F(SettingsFile, ShortFilesKeepWhatTheyHold)
