@@ -21,14 +21,6 @@ static RouteBest search(Square from, int thrown, bool simulateFollowers)
     return best;
 }
 
-// The furthest row of a rider with so many moves, alone on the road.
-static int rowWalkedTo(Square from, int moves)
-{
-    RouteBest best;
-    findRoute(from, moves, {.rider = 0, .reachOnly = true}, best);
-    return best.row;
-}
-
 // Every square within a number of moves, by trying all ways.
 static void collect(Square at, int moves, std::set<std::pair<int, int>>& reached)
 {
@@ -38,25 +30,6 @@ static void collect(Square at, int moves, std::set<std::pair<int, int>>& reached
     for (const char letter : {'R', 'L', 'M'})
         if (const Square to = stepTarget(at.row, at.lane, letter, false); to != NO_STEP)
             collect(to, moves - 1, reached);
-}
-
-// The reach tables come from one pass over the course; the walk must agree square by square.
-TEST(RouteSearch, ReachTablesAgreeWithTheWalk)
-{
-    for (const char* text : {"64S5F12", "67S8F12", "01S23S7S8F12", "012S37812F34"}) {
-        setUpRace(text, {});
-        for (int row = 0; row < course.courseRowCount; ++row)
-            for (int lane = 0; lane < COURSE_LANES; ++lane) {
-                const int modifier = squareAt(row, lane);
-                const bool real = isRealSquare(modifier);
-                ASSERT_EQ(course.reach12[row][lane],
-                          real ? rowWalkedTo({row, lane}, 12 + modifier) : -1)
-                    << text << row << ',' << lane;
-                ASSERT_EQ(course.reach11[row][lane],
-                          real ? rowWalkedTo({row, lane}, 11 + modifier) : -1)
-                    << text << row << ',' << lane;
-            }
-    }
 }
 
 // All else that decides a route is told by whole races.

@@ -126,22 +126,21 @@ TEST(Animation, StepwiseTakesATickASquareAndOneToSetOut)
     EXPECT_EQ(race.roundNumber, 3); // the turn is over
 }
 
-TEST(Animation, TicksOfAnotherStateAreDroppedAndOnlyOneIsEverPending)
+TEST(Animation, StandsStillBehindADialogAndGoesOnWithOneTickAtATime)
 {
     startSeededRace("64S5F12", 3);
     while (gameState != STATE_ANIMATE)
         advanceComputerRace();
     ASSERT_TRUE(runTick());
-    const RaceState before = race;
-    gameState = STATE_SCORECARD;
+    const int steps = race.stepsTaken;
+    openScorecard();
     ASSERT_TRUE(runTick());
-    EXPECT_FALSE(runTick()); // the chain has ended
-    EXPECT_EQ(race.stepsTaken, before.stepsTaken);
-    returnState = STATE_ANIMATE;
+    EXPECT_FALSE(runTick());
+    EXPECT_EQ(race.stepsTaken, steps);
     closeOverlay();
     EXPECT_EQ(fakeHost.pendingMs, 0);
-    returnState = gameState;
-    fakeHost.pendingMs = 7; // pretend a longer wait: a second chain must not be armed
+    openScorecard();
+    fakeHost.pendingMs = 7; // the tick armed before is still to come
     closeOverlay();
     EXPECT_EQ(fakeHost.pendingMs, 7);
     runComputerRace();

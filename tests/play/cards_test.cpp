@@ -17,14 +17,6 @@ static Pair laidBy(int rider, Square square, std::initializer_list<int> slots)
     return race.playedCards;
 }
 
-// The person on turn throws 7 and is given a card of this kind.
-static void winCard(int value)
-{
-    throwNumber(raceThrow(3, 4));
-    gameState = STATE_EVENT_CARD_KIND;
-    receiveWonCard(value);
-}
-
 TEST(Cards, ARiderHasHisOwnHisTeamsAndThoseHeWon)
 {
     putPersonOnTurn(5, FLAT);
@@ -56,10 +48,6 @@ TEST(Cards, TheTerrainSaysWhichAndHowMany)
 
     EXPECT_EQ(laidBy(0, MOUNTAIN, {0, 11, 14, 15, 2}), (Pair{15, 2})) << "only white ones";
     EXPECT_EQ(laidBy(0, COBBLES, {0, 2}), (Pair{0, -1}));
-    unpickCard(0);
-    race.playedCards = {DOPING_CARD, -1};
-    pickCard(2);
-    EXPECT_EQ(race.playedCards, (Pair{DOPING_CARD, -1}));
 }
 
 TEST(Cards, LieFastAfterTheThrow)
@@ -115,12 +103,6 @@ TEST(Throw, ACardStandsInForItsDie)
     throwNumber(raceThrow(3, 2));
     EXPECT_EQ(race.dice, (Pair{3, 5}));
     EXPECT_EQ(race.movesTotal, 8);
-
-    putPersonOnTurn(5, FLAT);
-    race.playedCards = {-1, DOPING_CARD};
-    race.dopingCardValue = 4;
-    throwNumber(raceThrow(3, 2));
-    EXPECT_EQ(race.dice, (Pair{3, 4}));
 }
 
 TEST(Throw, TheSquareAddsToItAndMayStopTheRider)
@@ -135,6 +117,15 @@ TEST(Throw, TheSquareAddsToItAndMayStopTheRider)
     }
 }
 
+// Rider 5, on turn, throws 7 and is given a card of this kind. Whether he is asked when he uses it.
+static bool winCard(int value)
+{
+    throwNumber(raceThrow(3, 4));
+    gameState = STATE_EVENT_CARD_KIND;
+    receiveWonCard(value);
+    return gameState == STATE_EVENT_CARD_WHEN;
+}
+
 TEST(WonCard, IsUsedAtOnceOrGoesToTheFirstFreeSlot)
 {
     for (const bool now : {true, false}) {
@@ -142,8 +133,7 @@ TEST(WonCard, IsUsedAtOnceOrGoesToTheFirstFreeSlot)
         giveWonCard(14, 6, WHITE_CARD);
         giveWonCard(15, 6, WHITE_CARD);
         race.cardUsed[1][15] = CARD_SPENT;
-        winCard(BLUE_CARD);
-        EXPECT_EQ(gameState, STATE_EVENT_CARD_WHEN);
+        EXPECT_TRUE(winCard(BLUE_CARD));
         useWonCard(now);
         EXPECT_EQ(gameState, STATE_MOVE);
         EXPECT_EQ(race.cardUsed[1][15], now ? CARD_SPENT : CARD_AVAILABLE);
@@ -153,16 +143,12 @@ TEST(WonCard, IsUsedAtOnceOrGoesToTheFirstFreeSlot)
         EXPECT_EQ(race.bonusMoves, now ? BLUE_CARD : 0);
         EXPECT_EQ(race.movesTotal, 7);
     }
-}
-
-TEST(WonCard, BlueOnAMountainIsKeptUnasked)
-{
-    for (const int value : {BLUE_CARD, WHITE_CARD}) {
-        putPersonOnTurn(5, MOUNTAIN);
-        winCard(value);
-        EXPECT_EQ(gameState, value == BLUE_CARD ? STATE_MOVE : STATE_EVENT_CARD_WHEN);
-        EXPECT_EQ(race.cardUsed[1][14], value == BLUE_CARD ? CARD_AVAILABLE : CARD_NONE);
-    }
+    putPersonOnTurn(5, MOUNTAIN);
+    EXPECT_TRUE(winCard(WHITE_CARD));
+    putPersonOnTurn(5, MOUNTAIN);
+    EXPECT_FALSE(winCard(BLUE_CARD)); // is no use there, and kept unasked
+    EXPECT_EQ(gameState, STATE_MOVE);
+    EXPECT_EQ(race.cardUsed[1][14], CARD_AVAILABLE);
 }
 
 TEST(WonCard, TheFifthIsLost)

@@ -24,7 +24,7 @@ static void draw(int card, int rider)
 }
 
 // Rider 0 holds this card; rider 15, a person's, comes next.
-static void hold(int card, bool person, Square square = FLAT)
+static void hold(int card, bool person, Square square)
 {
     setUpRace(ONE_LAP, {{0, square.row, square.lane}, {15, 6, 0}});
     if (person)
@@ -39,10 +39,7 @@ static void apply(int card, bool person, Square square = FLAT)
     applyEventCard();
 }
 
-struct Moves {
-    int budget, total, extra, bonus;
-    friend bool operator==(const Moves&, const Moves&) = default;
-};
+using Moves = Table<int, 4>; // budget, total, extra and bonus
 
 static Moves moves()
 {
@@ -68,96 +65,79 @@ TEST(EventCard, IsDrawnForASevenFromTheSecondRoundOn)
         bool drawn = false;
         int round = 2;
         bool cardsOn = true;
-        bool blueLaid = false;
+        std::initializer_list<int> cards = {};
         Square square = FLAT;
-        int position = 3;
     } cases[] = {
         {.drawn = true},
-        {.drawn = true, .position = EVENT_CARD_COUNT - 1}, // behind the last comes the first again
         {.round = 1},
         {.cardsOn = false},
         {.dice = {3, 5}},
-        {.dice = {5, 1}, .drawn = true, .blueLaid = true},
+        {.dice = {5, 1}, .drawn = true, .cards = {0}},
         {.dice = {1, 1}, .square = DESCENT}, // seven moves, but no throw of seven
     };
     for (const auto& known : cases) {
         putPersonOnTurn(0, known.square);
         raceSetup.eventCardsOn = known.cardsOn;
-        if (known.blueLaid)
-            pickCard(0);
+        pickCards(known.cards);
         race.roundNumber = known.round;
-        deck.eventCardPos = known.position;
+        deck.eventCardPos = EVENT_CARD_COUNT - 1; // behind the last comes the first again
         throwNumber(raceThrow(known.dice[0], known.dice[1]));
         EXPECT_EQ(gameState, known.drawn ? STATE_EVENT_CARD : STATE_MOVE);
-        EXPECT_EQ(deck.eventCardPos, (known.position + known.drawn) % EVENT_CARD_COUNT);
+        EXPECT_EQ(deck.eventCardPos, known.drawn ? 0 : EVENT_CARD_COUNT - 1);
     }
 }
 
 TEST(EventCard, LostTurnsAreBoughtOffByPersonsIfTheyLike)
 {
-    for (const int card : {0, 4, 5, 11}) {
+    for (int card = 0; card < 12; ++card) {
+        SCOPED_TRACE(card);
         const int turns = card < 5 ? 1 : 2;
         apply(card, true);
-        EXPECT_EQ(gameState, STATE_SKIP_HANDIN) << card;
-        EXPECT_EQ(race.riders[0].skipTurns, turns) << card;
+        EXPECT_EQ(gameState, STATE_SKIP_HANDIN);
+        EXPECT_EQ(race.riders[0].skipTurns, turns);
         pay({0, 10}); // for one turn only the first is taken
         EXPECT_EQ(race.cardUsed[0][10], turns == 2 ? CARD_SPENT : CARD_AVAILABLE);
-        EXPECT_EQ(gameState, STATE_MOVE) << card; // with his throw
-        EXPECT_EQ(race.currentRider, 0);
+        EXPECT_EQ(onTurn(), (OnTurn{0, STATE_MOVE})); // with his throw
         EXPECT_EQ(race.moveBudget, 7);
+
+        apply(card, true);
+        pay({}); // the running one is lost, and the next if it was two
+        EXPECT_TRUE(lostHisTurn(0));
+        EXPECT_EQ(race.riders[0].skipTurns, turns - 1);
+        EXPECT_EQ(onTurn(), (OnTurn{15, STATE_TURN}));
     }
     apply(7, true);
-    pay({3}); // one card for two turns: the running one is lost, and no other
+    pay({3}); // one card for two turns
     EXPECT_TRUE(lostHisTurn(0));
     EXPECT_EQ(race.riders[0].skipTurns, 0);
-    EXPECT_EQ(onTurn(), (OnTurn{15, STATE_TURN}));
-
-    apply(7, true);
-    pay({});
-    EXPECT_EQ(race.riders[0].skipTurns, 1);
 }
 
-TEST(EventCard, LostTurnsAreBoughtOffByComputerRidersAtOnce)
-{
-    apply(9, false);
-    EXPECT_EQ(gameState, STATE_ANIMATE);
-    EXPECT_EQ(race.moveBudget, 7);
-    EXPECT_EQ(spentCards(0).size(), 2u);
-    EXPECT_EQ(race.riders[0].skipTurns, 0);
-
-    hold(9, false);
-    leaveCards(0, {});
-    applyEventCard();
-    EXPECT_TRUE(lostHisTurn(0));
-    EXPECT_EQ(race.riders[0].skipTurns, 1);
-    EXPECT_EQ(race.currentRider, 15);
-}
-
-// Behind rider 0 stand rider 4, who has moved, and rider 8; rider 12 stands clear.
+// Behind rider 0 stand rider 4, who has moved, rider 8, a computer's, and rider 12, without cards.
 TEST(EventCard, VictimsOfACrashAnswerAfterItsCauserFrontToBack)
 {
     for (const int card : {12, 13, 14}) {
-        setUpPersonsRace(ONE_LAP, {{0, 7, 2}, {4, 6, 2, MOVED}, {8, 5, 2}, {12, 2, 0}});
+        setUpPersonsRace(ONE_LAP, {{0, 7, 2}, {4, 6, 2, MOVED}, {8, 5, 2}, {12, 4, 2}, {13, 2, 0}});
+        race.riders[8].isHuman = 0;
         draw(card, 0);
-        leaveCards(2, {});
+        leaveCards(3, {});
         race.riderLapCount[4] = 0;
         applyEventCard();
         EXPECT_EQ(race.riders[0].skipTurns, card == 14 ? 2 : 1);
         EXPECT_EQ(race.riders[4].skipTurns, 1);
-        EXPECT_EQ(race.riders[12].skipTurns, 0);
+        EXPECT_EQ(race.riders[13].skipTurns, 0);
         EXPECT_EQ(occupant(7, 2), -1); // it is still his turn
 
         EXPECT_EQ(race.currentRider, 0);
         pay({0, 1});
-        EXPECT_EQ(race.currentRider, 4);
+        EXPECT_EQ(onTurn(), (OnTurn{4, STATE_SKIP_HANDIN}));
         EXPECT_EQ(view.shownTeam, 1);
         EXPECT_EQ(race.riderLapCount[4], 1); // as the panel says
-        EXPECT_EQ(gameState, STATE_SKIP_HANDIN);
         pay({0});
-        EXPECT_EQ(onTurn(), (OnTurn{8, STATE_SKIP_NO_CARD}));
+        EXPECT_EQ(spentCards(2).size(), 1u); // the computer's rider has paid at once
+        EXPECT_EQ(onTurn(), (OnTurn{12, STATE_SKIP_NO_CARD}));
         pay({}); // and those of the others aren't his
-        EXPECT_TRUE(lostHisTurn(8));
-        EXPECT_EQ(occupant(5, 2), -1);
+        EXPECT_TRUE(lostHisTurn(12));
+        EXPECT_EQ(occupant(4, 2), -1);
         EXPECT_EQ(occupant(6, 2), 4);
         EXPECT_EQ(onTurn(), (OnTurn{0, STATE_MOVE})); // has paid and moves with his throw
     }
@@ -177,42 +157,35 @@ TEST(EventCard, WhoHasLostHisTurnInACrashHandsItOn)
     EXPECT_EQ(onTurn(), (OnTurn{4, STATE_TURN})); // the turn in hand was lost; now it is his own
 }
 
-TEST(EventCard, ComputerVictimsOfACrashPayAtOnce)
+// A computer rider uses at once what he is given, and its number counts as thrown.
+TEST(EventCard, MovesThatItBrings)
 {
-    setUpPersonsRace(ONE_LAP, {{0, 7, 2}, {8, 6, 2}, {4, 5, 2, MOVED}});
-    race.riders[8].isHuman = 0;
-    draw(12, 0);
-    applyEventCard();
-    pay({0});
-    EXPECT_EQ(spentCards(2).size(), 1u);
-    EXPECT_EQ(onTurn(), (OnTurn{4, STATE_SKIP_HANDIN})); // behind him, and asked after him
-    pay({});                                             // though he has moved already
-    EXPECT_TRUE(lostHisTurn(4));
-    EXPECT_EQ(onTurn(), (OnTurn{0, STATE_MOVE}));
-}
-
-TEST(EventCard, AFreeCardAndAnExtraDieAreABonusForComputerRiders)
-{
-    apply(FREE_CARD, true);
-    EXPECT_EQ(gameState, STATE_EVENT_CARD_KIND);
-    EXPECT_EQ(race.moveBudget, 7);
-    for (const Square square : {FLAT, MOUNTAIN}) {
-        apply(FREE_CARD, false, square);
-        const int bonus = square == MOUNTAIN ? WHITE_CARD : BLUE_CARD;
-        EXPECT_EQ(gameState, STATE_ANIMATE);
-        EXPECT_EQ(race.bonusMoves, bonus);
-        EXPECT_EQ(race.movesTotal, 7 + bonus);
-        EXPECT_EQ(race.cardUsed[0][SET_CARD_COUNT], CARD_NONE); // never a card
-    }
-    for (const bool person : {true, false}) {
-        hold(EXTRA_DIE, person);
+    const struct {
+        int card;
+        bool person;
+        Square square;
+        GameState state;
+        Moves moves;
+    } cases[] = {
+        {FREE_CARD, true, FLAT, STATE_EVENT_CARD_KIND, {7, 7, 0, 0}},
+        {FREE_CARD, false, FLAT, STATE_ANIMATE, {13, 13, 0, BLUE_CARD}},
+        {FREE_CARD, false, MOUNTAIN, STATE_ANIMATE, {9, 12, 0, WHITE_CARD}},
+        {EXTRA_DIE, true, FLAT, STATE_MOVE, {11, 11, 0, 0}},
+        {EXTRA_DIE, false, FLAT, STATE_ANIMATE, {11, 11, 0, 0}},
+        {PAID_SPACES, true, FLAT, STATE_EVENT_HANDIN, {7, 7, 0, 0}},
+        {PAID_SPACES, false, FLAT, STATE_ANIMATE, {11, 11, 4, 0}},
+    };
+    for (const auto& known : cases) {
+        SCOPED_TRACE(testing::Message() << "card " << known.card << " person " << known.person);
+        hold(known.card, known.person, known.square);
         const ScriptedRand script{3};
         applyEventCard();
         throwExtraDie(); // which only a person is asked to do
-        EXPECT_EQ(gameState, person ? STATE_MOVE : STATE_ANIMATE);
-        EXPECT_EQ(race.extraDie, 4);
-        EXPECT_EQ(moves(), (Moves{11, 11, 0, 0}));
+        EXPECT_EQ(gameState, known.state);
+        EXPECT_EQ(moves(), known.moves);
+        EXPECT_EQ(race.extraDie, known.card == EXTRA_DIE ? 4 : -1);
     }
+    EXPECT_EQ(spentCards(0), std::vector{0}); // the first, whatever its value
 }
 
 TEST(EventCard, ExtraSpacesRaiseTheTotalOfComputerRidersOnly)
@@ -228,16 +201,15 @@ TEST(EventCard, ExtraSpacesRaiseTheTotalOfComputerRidersOnly)
             EXPECT_EQ(moves(), (Moves{7 + more, person ? 7 : 7 + more, more, 0}));
             EXPECT_EQ(race.breakaway, alone[card - 21]);
         }
-    hold(21, true);
+    hold(21, true, FLAT);
     race.breakaway = 1; // declared before the throw
     applyEventCard();
     EXPECT_EQ(race.breakaway, 1);
 }
 
-TEST(EventCard, SpacesForACardArePaidByPersonsAsTheyChooseAndByComputerRidersAtOnce)
+TEST(EventCard, SpacesForACardArePaidByPersonsAsTheyChoose)
 {
     apply(PAID_SPACES, true);
-    EXPECT_EQ(gameState, STATE_EVENT_HANDIN);
     pay({}); // nothing chosen
     EXPECT_EQ(gameState, STATE_EVENT_HANDIN);
     pickCards({2, 3});
@@ -245,11 +217,6 @@ TEST(EventCard, SpacesForACardArePaidByPersonsAsTheyChooseAndByComputerRidersAtO
     confirmHandIn();
     EXPECT_EQ(gameState, STATE_MOVE);
     EXPECT_EQ(moves(), (Moves{11, 7, 4, 0}));
-
-    apply(PAID_SPACES, false);
-    EXPECT_EQ(gameState, STATE_ANIMATE);
-    EXPECT_EQ(moves(), (Moves{11, 11, 4, 0}));
-    EXPECT_EQ(spentCards(0), std::vector{0}); // the first, whatever its value
 }
 
 TEST(EventCard, WithoutACardToPayTheThrowStands)

@@ -141,26 +141,6 @@ TEST(Following, ARiderALapAheadFollowsOnHisOwnLap)
     expectYes(9); // the line goes on a lap behind
     EXPECT_EQ(squareOfRider(9), (Square{105, 5}));
     EXPECT_EQ(occupant(106, 5), -1);
-
-    // Behind the first row there is but the end of a lap.
-    setUpPersonsRace(TWO_LAPS, {{0, 0, 2}, {4, 108, 5}, {9, 0, 4}});
-    lead(0, "MM");
-    expectYes(4);
-    EXPECT_EQ(squareOfRider(4), (Square{110, 5}));
-    EXPECT_EQ(race.currentRider, 9);
-}
-
-TEST(Following, FollowersCrossTheFinishBehindTheLeader)
-{
-    setUpPersonsRace(ONE_LAP, {{0, 113, 5}, {4, 112, 5}, {9, 111, 5}, {12, 60, 4}});
-    lead(0, "MMM");
-    expectYes(4);
-    expectYes(9); // he comes to stand on the line
-    EXPECT_EQ(race.resultSlots[FINISH_SLOT + 1], 4);
-    EXPECT_EQ(race.resultSlots[FINISH_SLOT + 2], -1);
-    EXPECT_EQ(race.sprintWinner, 0);
-    EXPECT_TRUE(race.riders[0].finished && race.riders[4].finished);
-    EXPECT_FALSE(race.riders[9].finished);
 }
 
 TEST(ComputerFollower, ComesToASquareAsGoodAsHisOwnTurnPromises)
@@ -177,12 +157,4 @@ TEST(ComputerFollower, ComesToASquareAsGoodAsHisOwnTurnPromises)
     EXPECT_TRUE(computerFollows(113, 5, "MMM", 115, 1));
     EXPECT_EQ(race.resultSlots[FINISH_SLOT + 1], 4);
     EXPECT_EQ(race.riders[4].finished, 1);
-
-    setUpPersonsRace(ONE_LAP, {{0, 104, 5}, {4, 103, 5}, {9, 102, 5}, {12, 103, 7}});
-    letComputerJudge();
-    course.reach12[106][5] = WORTH - 1;
-    lead(0, "MMM");
-    EXPECT_EQ(occupant(103, 5), 4);
-    EXPECT_EQ(occupant(102, 5), 9); // with his no the chain has ended
-    EXPECT_EQ(race.currentRider, 12);
 }

@@ -7,16 +7,6 @@
 
 using Slots = std::vector<int>;
 
-// Rider 0, a person's, has drawn a card that costs him turns.
-static void loseTurns(int turns, Square square)
-{
-    setUpPersonsRace(ONE_LAP, {{0, square.row, square.lane}, {15, 6, 0}});
-    beginPersonsMove(0, 7);
-    race.eventRider = 0;
-    race.riders[0].skipTurns = turns;
-    askHandIn();
-}
-
 // What a computer rider of the first team pays for turns to miss, which a person drew for him.
 static Slots paidBy(int rider, Square square, int skipTurns)
 {
@@ -49,7 +39,10 @@ TEST(HandIn, OnlyCardsThatHeMayHandInCount)
 TEST(HandIn, AsManyCardsAsTurnsButOneOnCobbles)
 {
     const auto laid = [](int turns, Square square, std::initializer_list<int> slots) {
-        loseTurns(turns, square);
+        setUpPersonsRace(ONE_LAP, {{0, square.row, square.lane}});
+        beginPersonsMove(0, 7);
+        race.riders[0].skipTurns = turns;
+        askHandIn();
         pickCards(slots);
         return race.handInCards;
     };

@@ -24,8 +24,9 @@ static Teams teamsAskedFor(std::initializer_list<int> sums)
     for (const int sum : sums) {
         asked.push_back(riderTeam(race.currentRider));
         const int first = std::min(6, sum - 1);
-        const ScriptedRand script{orderThrow(first, sum - first)};
+        const ScriptedRand script{36 + (first - 1) * 6 + sum - first - 1}; // one number for both
         throwForOrder();
+        throwForOrder(); // a throw stands
         EXPECT_EQ(race.dice, (Pair{first, sum - first}));
         afterOrderThrow();
         EXPECT_EQ(race.dice, (Pair{-1, -1})); // none lies there for the next team
@@ -51,25 +52,6 @@ void placeOn(int row, int lane)
     placeHumanRider();
 }
 
-// Tries every square until one is taken.
-static void placeSomewhere()
-{
-    const int rider = race.currentRider;
-    for (int square = 0; square < 4 * 5 && race.riders[rider].row == -1; ++square)
-        placeOn(square / 5, square % 5);
-}
-
-TEST(OrderThrow, OneNumberGivesBothDice)
-{
-    waitForOrderThrow();
-    const ScriptedRand script{36 + 8};
-    throwForOrder();
-    EXPECT_EQ(race.dice, (Pair{2, 3}));
-    EXPECT_EQ(race.teamThrow[0], 5);
-    throwForOrder(); // a throw stands
-    EXPECT_EQ(script.calls(), 1);
-}
-
 TEST(OrderThrow, OnlyTheTiedThrowAgain)
 {
     waitForOrderThrow();
@@ -90,7 +72,7 @@ TEST(Placing, TheTeamThatWonLeadsEachCycle)
     std::vector<int> placed;
     while (gameState == STATE_PLACE_HUMAN && placed.size() < RIDER_COUNT) {
         placed.push_back(race.currentRider);
-        placeSomewhere();
+        placeOn(riderTeam(race.currentRider), riderPlace(race.currentRider));
     }
     EXPECT_EQ(placed, (std::vector{8, 12, 0, 4, 9, 13, 1, 5, 10, 14, 2, 6, 11, 15, 3, 7}));
     EXPECT_EQ(gameState, STATE_TURN);

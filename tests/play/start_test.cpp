@@ -71,9 +71,4 @@ TEST(Start, TeamsOptionsAndStagesLastFromRaceToRace)
     EXPECT_TRUE(raceSetup.eventCardsOn && raceSetup.multiStage);
     EXPECT_EQ(raceSetup.raceStages.size(), 2u);
     EXPECT_EQ(deck.eventCardPos, 17);
-
-    race.riders[0].isHuman = 0; // a computer's team throws at once
-    startRace();
-    EXPECT_EQ(gameState, STATE_ORDER_RESULT);
-    EXPECT_NE(race.teamThrow[0], -1);
 }

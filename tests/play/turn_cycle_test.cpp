@@ -58,6 +58,19 @@ TEST(NextTurn, ForgetsTheMoveBefore)
         EXPECT_EQ(none, -1);
 }
 
+// Whoever watches confirms the event card, and that a climb of -6 has taken the whole throw.
+TEST(ComputerTurn, WaitsForTheOkThatPersonsGiveToo)
+{
+    for (const int second : {4, 3}) {
+        setUpRace(ONE_LAP, {{0, 43, 2}});
+        raceSetup.eventCardsOn = true;
+        leaveCards(0, {});
+        const ScriptedRand script{raceThrow(3, second)};
+        nextTurn();
+        EXPECT_EQ(gameState, second == 4 ? STATE_EVENT_CARD : STATE_NO_MOVE);
+    }
+}
+
 TEST(Finishers, TheLineDirectlyBehindLeavesWithTheLeader)
 {
     // In lane 4 row 119 has no square of its own, and nobody stands on row 116.
@@ -83,26 +96,18 @@ TEST(Finishers, TheLineDirectlyBehindLeavesWithTheLeader)
     EXPECT_EQ(race.currentRider, 2);
 }
 
-TEST(RoundEnd, WhoMissesATurnHoldsNobodyUpAndStaysAway)
+TEST(RoundEnd, WhoMissesTurnsStaysAwayForThem)
 {
-    for (const int turns : {1, 2}) {
-        setUpPersonsRace(ONE_LAP, {{0, 7, 2, MOVED}, {5, 8, 2}});
-        if (turns == 2)
-            liftOffBoard(5);
-        race.riders[5].skipTurns = turns;
+    setUpPersonsRace(ONE_LAP, {{0, 7, 2, MOVED}, {5, 8, 2}});
+    liftOffBoard(5);
+    race.riders[5].skipTurns = 2;
+    for (const int rider : {0, 0, 5}) {
         nextTurn();
-        EXPECT_EQ(race.roundNumber, 3);
-        EXPECT_EQ(race.currentRider, 0);
-        EXPECT_EQ(race.riders[5].skipTurns, turns - 1);
-        EXPECT_EQ(race.riders[5].hasMoved, 1);
-        EXPECT_EQ(race.riders[5].offBoard, turns == 2);
+        EXPECT_EQ(race.currentRider, rider);
+        EXPECT_EQ(race.riders[5].offBoard, rider == 0);
+        race.riders[rider].hasMoved = 1;
     }
-    race.riders[0].hasMoved = 1;
-    nextTurn(); // one turn is still to be missed
-    EXPECT_EQ(race.currentRider, 0);
-    race.riders[0].hasMoved = 1;
-    nextTurn();
-    EXPECT_EQ(race.currentRider, 5);
+    EXPECT_EQ(race.roundNumber, 5);
 
     setUpPersonsRace(ONE_LAP, {{5, 8, 2}}); // rounds without a player pass at once
     liftOffBoard(5);
@@ -110,22 +115,14 @@ TEST(RoundEnd, WhoMissesATurnHoldsNobodyUpAndStaysAway)
     nextTurn();
     EXPECT_EQ(race.roundNumber, 5);
     EXPECT_EQ(race.currentRider, 5);
-    EXPECT_EQ(race.riders[5].offBoard, 0);
-}
-
-TEST(SetBack, OnHisOwnSquareIfItIsFree)
-{
-    setUpPersonsRace(ONE_LAP, {{5, 7, 2}, {12, 60, 4, MOVED}});
-    race.currentRider = 5;
-    gameState = STATE_NO_MOVE;
-    leaveRound();
-    EXPECT_EQ(race.roundNumber, 3);
-    EXPECT_EQ(occupant(7, 2), 5);
-    EXPECT_EQ(race.currentRider, 12);
 }
 
 TEST(SetBack, FirstToTheLeftThenFromTheRightOfTheRowBehind)
 {
+    setBack(ONE_LAP, {{5, 7, 2}}, {});
+    EXPECT_EQ(occupant(7, 2), -1); // on his own square, and on turn
+    EXPECT_EQ(onTurn(), (OnTurn{5, STATE_TURN}));
+
     setBack(ONE_LAP, {{5, 7, 2}, {6, 8, 1}, {7, 12, 4}}, {{7, 2}, {8, 1}, {8, 0}, {12, 4}});
     EXPECT_EQ(squareOfRider(7), (Square{11, 2})); // row 12 has no other square, row 11 lanes 1, 2
     EXPECT_EQ(squareOfRider(6), (Square{7, 4}));
@@ -140,69 +137,33 @@ TEST(SetBack, FirstToTheLeftThenFromTheRightOfTheRowBehind)
 
     setBack(TWO_LAPS, {{5, 7, 2}}, {{116, 5}}); // the same printed square
     EXPECT_EQ(squareOfRider(5), (Square{7, 1}));
-}
 
-TEST(SetBack, OverTheLineOfALapHeIsInTheLapBehindIt)
-{
-    setBack(ONE_LAP, {{5, 6, 0}}, {{6, 0}});
+    setBack(ONE_LAP, {{5, 6, 0}}, {{6, 0}}); // over the line, into the lap behind it
     EXPECT_EQ(squareOfRider(5), (Square{5, 4}));
-    EXPECT_EQ(onTurn(), (OnTurn{5, STATE_TURN}));
     EXPECT_EQ(race.riderLapCount[5], 0);
-}
-
-TEST(SetBack, WithoutASquareHeIsPassedOver)
-{
-    setBack(ONE_LAP, {{5, 40, 0}, {6, 0, 0}}, {{0, 0}});
-    EXPECT_EQ(race.riders[6].offBoard, 1);
-    EXPECT_EQ(race.riders[5].offBoard, 0);
-    EXPECT_EQ(race.currentRider, 5);
 }
 
 // At the very back there may be no square for him. He plays all the same, and his first step brings
 // him back; whoever stands on his old square stays there.
 TEST(SetBack, WhoFoundNoSquareIsBackOnceHeHasMoved)
 {
-    for (const bool person : {true, false}) {
-        setUpRace(
-            ONE_LAP,
-            {{0, 0, 0}, {1, 0, 1, MOVED}, {2, 0, 2, MOVED}, {3, 0, 3, MOVED}, {4, 0, 4, MOVED}});
-        if (person)
-            makeHuman(0);
-        race.riders[0].offBoard = 1;
-        race.riders[5] = {.row = 0, .lane = 0, .hasMoved = 1};
-        course.courseOccupant[0][0] = 5;
-        nextTurn();
-        ASSERT_EQ(race.currentRider, 0);
-        EXPECT_EQ(occupant(0, 0), 5);
-        if (person) {
-            throwNumber(raceThrow(1, 1));
-            steer("M");
-            EXPECT_EQ(race.riders[0].offBoard, 0); // and is seen there
-            steer("M");
-            endHumanMove();
-        } else {
-            while (race.riders[0].hasMoved == 0)
-                ASSERT_TRUE(advanceComputerRace());
-        }
-        EXPECT_EQ(race.riders[0].offBoard, 0);
-        EXPECT_GT(race.riders[0].row, 0);
-        EXPECT_EQ(occupant(0, 0), 5);
-        EXPECT_EQ(raceFault(), "");
-    }
+    setUpPersonsRace(ONE_LAP, {{0, 0, 0}, {5, 0, 0, MOVED}});
+    race.riders[0].offBoard = 1;
+    nextTurn();
+    throwNumber(raceThrow(1, 1));
+    steer("M");
+    EXPECT_EQ(race.riders[0].offBoard, 0); // and is seen there
+    steer("M");
+    endHumanMove();
+    EXPECT_EQ(occupant(0, 0), 5);
 }
 
 TEST(StageEnd, ComesWhenNobodyIsLeftToPlay)
 {
-    setUpPersonsRace(ONE_LAP, {{0, 116, 4, MOVED}});
-    race.currentRider = 0;
-    nextTurn();
-    EXPECT_EQ(gameState, STATE_DOPING_DRAW); // at once, with or without doping
-    EXPECT_NE(race.dopingDraw[0], 0);
-    EXPECT_EQ(race.currentRider, -1);
-
-    // Past the finish, but never taken off: he can't hold up the stage.
+    // The second one lies past the finish and was never taken off: he can't hold up the stage.
     setUpPersonsRace(ONE_LAP, {{0, 116, 4, MOVED}, {1, 116, 6, MOVED}});
     race.currentRider = 0;
     nextTurn();
-    EXPECT_EQ(gameState, STATE_DOPING_DRAW);
+    EXPECT_EQ(onTurn(), (OnTurn{-1, STATE_DOPING_DRAW})); // at once, with or without doping
+    EXPECT_NE(race.dopingDraw[0], 0);
 }

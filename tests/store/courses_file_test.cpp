@@ -6,8 +6,6 @@
 
 #include <gtest/gtest.h>
 
-#include <sys/stat.h>
-
 static void save(const char* text)
 {
     courseText = text;
@@ -42,14 +40,4 @@ TEST(SavedCourses, CutAndBrokenRecordsDoNoHarm)
     EXPECT_EQ(readSavedCourse(0), "64S5F");
     EXPECT_EQ(readSavedCourse(1), "");
     EXPECT_EQ(readSavedCourse(2), "");
-}
-
-TEST(SavedCourses, AFolderOrAPipeOfTheNameHoldsNone)
-{
-    const OwnFolder folder;
-    std::filesystem::create_directory("courses");
-    EXPECT_EQ(countSavedCourses(), 0);
-    std::filesystem::remove("courses");
-    ASSERT_EQ(mkfifo("courses", 0600), 0);
-    EXPECT_EQ(countSavedCourses(), 0);
 }

@@ -2,34 +2,30 @@
 
 #include "play/cards.h"
 
-#include <vector>
+#include <deque>
 
-static std::vector<int> script;
-static int callCount = 0;
+static std::deque<int> script;
 
 extern "C" int __real_rand();
 extern "C" int __wrap_rand();
 
 extern "C" int __wrap_rand()
 {
-    const auto call = static_cast<std::size_t>(callCount++);
-    return call < script.size() ? script[call] : __real_rand();
+    if (script.empty())
+        return __real_rand();
+    const int number = script.front();
+    script.pop_front();
+    return number;
 }
 
 ScriptedRand::ScriptedRand(std::initializer_list<int> numbers)
 {
     script = numbers;
-    callCount = 0;
 }
 
 ScriptedRand::~ScriptedRand()
 {
     script.clear();
-}
-
-int ScriptedRand::calls() const
-{
-    return callCount;
 }
 
 void throwNumber(int number)

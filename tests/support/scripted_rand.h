@@ -12,21 +12,12 @@ struct ScriptedRand {
     ~ScriptedRand();
     ScriptedRand(const ScriptedRand&) = delete;
     ScriptedRand& operator=(const ScriptedRand&) = delete;
-
-    // Calls of rand() since it began.
-    int calls() const;
 };
 
-// The number behind a race throw of these two dice, and behind a throw for the order, which shares
-// it out the other way round.
+// The number behind a race throw of these two dice.
 constexpr int raceThrow(int first, int second)
 {
     return (second - 1) * 6 + first - 1;
-}
-
-constexpr int orderThrow(int first, int second)
-{
-    return raceThrow(second, first);
 }
 
 // The throw of the person on turn, with this number behind it.
