@@ -103,6 +103,21 @@ TEST(Animation, CarriesRidersEvenlyAlongEveryLane)
     }
 }
 
+TEST(Animation, WhoChangesLanesLooksWhereHeRides)
+{
+    setUpRace(ONE_LAP, {});
+    for (const auto& [from, to] : {std::pair{Square{7, 2}, Square{8, 1}},
+                                   {{7, 2}, {8, 3}},
+                                   {{60, 4}, {61, 3}},
+                                   {{60, 4}, {61, 5}}}) {
+        const std::vector<WayPoint> way = wayBetween(from, to);
+        const BoardPoint begin = way.front().at;
+        const BoardPoint end = way.back().at;
+        const double direction = std::atan2(end.y - begin.y, end.x - begin.x);
+        EXPECT_NEAR(way.front().heading, direction, 0.001) << from.row << " to lane " << to.lane;
+    }
+}
+
 TEST(Animation, StepwiseTakesATickASquareAndOneToSetOut)
 {
     setUpRace(ONE_LAP, {{0, 6, 4}});

@@ -86,6 +86,7 @@ TEST(EndOfMove, BeyondTheFinishAllMovesMustBeUsed)
     steer("M");
     endHumanMove(); // on the line he may stop
     EXPECT_EQ(race.currentRider, 4);
+    EXPECT_EQ(occupantAt(114, 5), 0) << "nobody else comes by";
     EXPECT_EQ(race.resultSlots[FINISH_SLOT], -1);
 
     setUpPersonsRace(ONE_LAP, {{0, 114, 5}, {4, 60, 4}});
