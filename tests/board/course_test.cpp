@@ -6,25 +6,23 @@
 
 TEST(Course, HasItsRowsLinesAndLaps)
 {
-    struct {
+    // clang-format off
+    const struct {
         const char* text;
         int rows;
         Table<int, 3> sprints;
         int finish;
         Table<int, LAP_END_MAX> lapEnds;
         int lastClimb; // with 17 before it
-    } const assembled[] =
-        {
-            // clang-format off
-        // course                     rows  sprints         finish  lap ends                  last climb
-        {"64S5F12",                    99, {43, -1, -1},     60,    {6, -1, -1, -1, -1},        17},
-        {"01S23S7S8F12",              153, {30, 60, 91},    114,    {5, 114, -1, -1, -1},       91},
-        {"67S8F12",                    99, {37, -1, -1},     60,    {6, -1, -1, -1, -1},        37},
-        {"01S23S4S5F12",              153, {30, 60, 97},    114,    {5, 114, -1, -1, -1},       43},
-        {"012345123451234512345F12",  480, {-1, -1, -1},    441,    {5, 114, 223, 332, 441},   370},
-        {"01S2S3S4S5F12",             153, {30, 43, 60},    114,    {5, 114, -1, -1, -1},       43},
-            // clang-format on
-        };
+    } assembled[] = {
+        {"64S5F12",                  99, {43, -1, -1},  60, {6, -1, -1, -1, -1},       17},
+        {"01S23S7S8F12",            153, {30, 60, 91}, 114, {5, 114, -1, -1, -1},      91},
+        {"67S8F12",                  99, {37, -1, -1},  60, {6, -1, -1, -1, -1},       37},
+        {"01S23S4S5F12",            153, {30, 60, 97}, 114, {5, 114, -1, -1, -1},      43},
+        {"012345123451234512345F12", 480, {-1, -1, -1}, 441, {5, 114, 223, 332, 441}, 370},
+        {"01S2S3S4S5F12",           153, {30, 43, 60}, 114, {5, 114, -1, -1, -1},      43},
+    };
+    // clang-format on
     for (const auto& known : assembled) { // a fourth sprint, as in the last, is skipped
         SCOPED_TRACE(known.text);
         course = {};
