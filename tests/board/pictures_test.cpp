@@ -132,11 +132,4 @@ TEST(SectionPictures, AndTheirCoursesAreTheKnownOnes)
     EXPECT_EQ(printOf(coursePixels[0]), 0x8f7a0268u);
 }
 
-TEST(CoursePictures, MergingComparesRedAlone)
-{
-    Picture target{3, 1, 3, {10, 200, 200, 10, 20, 30, 10, 1, 1}};
-    mergeBrightest(target, {3, 1, 3, {11, 0, 0, 10, 99, 99, 9, 255, 255}});
-    EXPECT_EQ(target.bytes, (Bytes{11, 0, 0, 10, 20, 30, 10, 1, 1}));
-}
-
 } // namespace

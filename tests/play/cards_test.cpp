@@ -50,19 +50,6 @@ TEST(Cards, TheTerrainSaysWhichAndHowMany)
     EXPECT_EQ(laidBy(0, COBBLES, {0, 2}), (Pair{0, -1}));
 }
 
-TEST(Cards, LieFastAfterTheThrow)
-{
-    putPersonOnTurn(0, FLAT);
-    pickCard(0);
-    throwNumber(raceThrow(1, 3));
-    pickCard(2);
-    unpickCard(0);
-    toggleBreakaway();
-    EXPECT_EQ(race.playedCards, (Pair{0, -1}));
-    EXPECT_EQ(race.cardUsed[0][0], CARD_SPENT);
-    EXPECT_EQ(race.breakaway, 0);
-}
-
 TEST(Breakaway, NeedsACardAndGoesWithTheLast)
 {
     putPersonOnTurn(0, FLAT);

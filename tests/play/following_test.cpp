@@ -121,14 +121,6 @@ TEST(Following, TheWayMayCostTheMovesThatTheLeaderMade)
     lead(0, "MR", 7);
     EXPECT_EQ(squareOfRider(4), (Square{14, 4}));
     EXPECT_EQ(gameState, STATE_TURN); // behind a computer rider's it hasn't
-
-    // Behind a computer leader the moves of his route count, not his throw.
-    setUpPersonsRace(ONE_LAP, {{0, 10, 3}, {4, 8, 3}});
-    beginPersonsMove(0, 2);
-    steer("MR");
-    race.movesTotal = 9;
-    endComputerMove();
-    EXPECT_EQ(gameState, STATE_TURN);
 }
 
 TEST(Following, ARiderALapAheadFollowsOnHisOwnLap)

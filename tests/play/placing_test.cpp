@@ -9,7 +9,7 @@
 using Teams = std::vector<int>;
 
 // A race of persons that waits for the throw of the first team.
-void waitForOrderThrow()
+static void waitForOrderThrow()
 {
     setUpPersonsRace(ONE_LAP, {});
     race.currentRider = 0;
@@ -34,8 +34,8 @@ static Teams teamsAskedFor(std::initializer_list<int> sums)
     return asked;
 }
 
-// The team of persons has won the throw.
-void waitForPlacing(int team, std::string_view text = ONE_LAP)
+// This team of persons has won the throw.
+static void waitForPlacing(int team, std::string_view text = ONE_LAP)
 {
     startSeededRace(text, 1);
     for (Rider& rider : race.riders)
@@ -45,7 +45,7 @@ void waitForPlacing(int team, std::string_view text = ONE_LAP)
     afterOrderThrow();
 }
 
-void placeOn(int row, int lane)
+static void placeOn(int row, int lane)
 {
     race.placingRow = row;
     race.placingLane = lane;

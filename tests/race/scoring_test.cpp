@@ -14,16 +14,12 @@ namespace fs = std::filesystem;
 using Slots = Table<int, RESULT_SLOT_COUNT>;
 using Sums = Table<int, TEAM_COUNT>;
 
-struct Place {
-    int slot;
-    int rider;
-};
-
-Slots places(std::initializer_list<Place> given)
+// Nobody has a place but these: slot and rider.
+Slots places(std::initializer_list<std::pair<int, int>> given)
 {
     Slots slots = filled<int, RESULT_SLOT_COUNT>(-1);
-    for (const Place& place : given)
-        slots[place.slot] = place.rider;
+    for (const auto& [slot, rider] : given)
+        slots[slot] = rider;
     return slots;
 }
 

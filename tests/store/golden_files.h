@@ -7,8 +7,7 @@
 
 // Files whose bytes are known. They were put together by hand, field by field, and not by the game:
 //
-//   settings   language and kind of movement, 1 byte each; time, distance, delay of 4; the two
-//   sides
+//   settings   language and kind of movement, 1 byte each; time, distance, delay of 4; both sides
 //              of the screen ratio, of 8; four names of 13
 //   courses    records of a name of 20 and a course of 28
 //   *.race     a head of 57: event cards, and for each team a name of 13 and who plays it; for each

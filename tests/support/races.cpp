@@ -14,7 +14,7 @@
 
 #include <cstdlib>
 
-static void resetProgram()
+void startSeededRace(std::string_view text, unsigned seed)
 {
     installFakeHost();
     settings = {};
@@ -25,11 +25,6 @@ static void resetProgram()
     deck = {};
     view = {};
     motion = {};
-}
-
-void startSeededRace(std::string_view text, unsigned seed)
-{
-    resetProgram();
     std::srand(seed);
     courseText = text;
     startRace();
