@@ -81,6 +81,7 @@ TEST(EndOfMove, BeyondTheFinishAllMovesMustBeUsed)
 {
     setUpPersonsRace(ONE_LAP, {{0, 113, 5}, {4, 60, 4}});
     beginPersonsMove(0, 3);
+    race.breakaway = 1;
     steer("M");
     endHumanMove(); // on the line he may stop
     EXPECT_EQ(race.currentRider, 4);
