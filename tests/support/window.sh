@@ -23,7 +23,7 @@ endGame()
 }
 
 # Where the controls are on a full-screen window of the display's size, and those that only a person
-# needs on one of 5:4. The same fractions as the layout's, so that a control that has moved is a test
+# needs on one of 5:4. Some are only clicked where the package is tried. The same fractions as the layout's, so that a control that has moved is a test
 # that fails.
 findControls()
 {
@@ -48,6 +48,7 @@ findControls()
             put("startEdge", v * 0.5 - v * 0.115, h * 0.72)
             put("corner", side + buttonW * 0.5, h - 20 - buttonH * 0.6)
             put("cornerEdge", side + 4, h - 20 - buttonH * 0.6)
+            put("quit", side + v * 0.04, h - 20 - buttonH * 0.6)
             put("setupOk", v * 0.5, h * 0.68 + buttonH * 0.5)
             put("setupOkEdge", v * 0.5 - buttonW * 0.4, h * 0.68 + buttonH * 0.5)
             put("singleStage", v * 0.4, h * 0.61)
@@ -59,6 +60,7 @@ findControls()
             put("camera", side + v * 0.08 - buttonH * 0.5, hud + buttonH * 0.5)
             put("dialogTitle", dialogX + 10, dialogY - v * 0.012)
             put("dialogOk", dialogX + dialogW * 0.5, dialogY + dialogH - buttonH * 0.7)
+            put("yes", dialogX + dialogW * 0.4 - buttonW * 0.5, dialogY + dialogH - buttonH * 0.7)
             put("sheetTitle", v * 0.5, cardY - 4)
             put("sheetOk", dialogX + dialogW * 0.85, cardY + sheetH - buttonH * 0.7)
             for (i = 0; i < 4; i++)
