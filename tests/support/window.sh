@@ -23,8 +23,8 @@ endGame()
 }
 
 # Where the controls are on a full-screen window of the display's size, and those that only a person
-# needs on one of 5:4. Some are only clicked where the package is tried. The same fractions as the layout's, so that a control that has moved is a test
-# that fails.
+# needs on one of 5:4; some are clicked where the package is tried. The same fractions as the
+# layout's, so that a control that has moved is a test that fails.
 findControls()
 {
     local width height name place
