@@ -18,7 +18,7 @@ static void buildAllLists()
 {
     prepareLetters();
     buildDisplayLists();
-    if (gameState != STATE_LOADING) // else GLUT does, as soon as it has reported the size
+    if (gameState != STATE_LOADING) // while loading onIdleLoad paints, see there
         redrawNow();
     listsBuilt = true;
 }
