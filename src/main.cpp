@@ -5,6 +5,7 @@
 #include "play/animation.h"
 #include "store/settings_file.h"
 #include "ui/frame.h"
+#include "ui/layout.h"
 #include "ui/loading.h"
 #include "ui/reshape.h"
 #include "ui/scale.h"
@@ -78,6 +79,8 @@ static void changeScreen()
 // GLUT's first report is of the size that was asked for; the window may have another by then.
 static void onReport(int, int)
 {
+    if (layout.viewW == 0)
+        takeUpWindowAnew();
     onReshape(glutGet(GLUT_WINDOW_WIDTH), glutGet(GLUT_WINDOW_HEIGHT));
 }
 

@@ -41,6 +41,20 @@ void introduceWindow()
     putProperty(display, window, "_NET_WM_ICON", "CARDINAL", 32, ICON, std::size(ICON));
 }
 
+// OpenGL must have held another window meanwhile; letting go of the same one is no change.
+void takeUpWindowAnew()
+{
+    Display* display = glXGetCurrentDisplay();
+    if (!display)
+        return;
+    const GLXContext context = glXGetCurrentContext();
+    const Window window = glXGetCurrentDrawable();
+    const Window other = XCreateSimpleWindow(display, window, 0, 0, 1, 1, 0, 0, 0);
+    if (glXMakeCurrent(display, other, context))
+        glXMakeCurrent(display, window, context);
+    XDestroyWindow(display, other);
+}
+
 double dotsPerInch()
 {
     Display* display = glXGetCurrentDisplay();
@@ -147,6 +161,7 @@ bool coverMainMonitor()
 #else
 
 void introduceWindow() {}
+void takeUpWindowAnew() {}
 bool managerMakesFullScreen()
 {
     return false;

@@ -7,6 +7,11 @@
 // menu, its title, and its icon in four sizes.
 void introduceWindow();
 
+// Makes OpenGL draw in the size that the window has by now. Mesa's software renderer asks for it
+// only when a window is taken up and after each swap: the first frame would be drawn, and its
+// memory touched, for the size in which the window was opened.
+void takeUpWindowAnew();
+
 // How many dots to an inch the desktop draws its texts with, by its resource "Xft.dpi"; 0 if it
 // doesn't say.
 double dotsPerInch();
