@@ -147,28 +147,24 @@ static void drawValue(float x, float y, float boxW, const std::string& label, in
     drawText(x + boxW * 0.02f, y, ALIGN_LEFT, known ? label + std::to_string(value) : label);
 }
 
-static void drawMovesBoxes()
+// Line by line from left to right: Mesa draws bitmaps that follow each other along a line as one.
+static void drawCounts()
 {
     const bool counted = race.moveBudget != -1;
+    const bool running = gameState != STATE_FINAL_SCORECARD;
+    const bool onTurn = race.currentRider != -1;
     setColour(WHITE);
     if (race.extraMoves != 0)
         drawValue(layout.hudCol3X, layout.movesBoxY + layout.bonusRowH * 0.5f, layout.movesBoxW,
                   texts.bonusMoves, race.extraMoves, true);
     drawValue(layout.hudCol3X, layout.movesBoxY + layout.bonusRowH + layout.movesRowH * 0.5f,
               layout.movesBoxW, texts.moves, race.moveBudget, counted);
-    drawValue(layout.hudCol3X, layout.movesLeftBoxY + layout.movesLeftBoxH * 0.5f,
-              layout.movesLeftBoxW, texts.movesLeft, race.moveBudget - race.stepsTaken, counted);
-}
-
-static void drawRoundAndLap()
-{
-    const bool running = gameState != STATE_FINAL_SCORECARD;
-    const bool onTurn = race.currentRider != -1;
-    setColour(WHITE);
-    drawValue(layout.roundBoxX, layout.movesLeftBoxY + layout.roundBoxH * 0.5f, layout.roundBoxW,
-              texts.round, race.roundNumber, running);
     drawValue(layout.lapBoxX, layout.lapBoxY + layout.lapBoxH * 0.5f, layout.lapBoxW, texts.lap,
               onTurn ? race.riderLapCount[race.currentRider] : 0, running && onTurn);
+    drawValue(layout.hudCol3X, layout.movesLeftBoxY + layout.movesLeftBoxH * 0.5f,
+              layout.movesLeftBoxW, texts.movesLeft, race.moveBudget - race.stepsTaken, counted);
+    drawValue(layout.roundBoxX, layout.movesLeftBoxY + layout.roundBoxH * 0.5f, layout.roundBoxW,
+              texts.round, race.roundNumber, running);
 }
 
 static void drawHandInSlots()
@@ -214,8 +210,7 @@ void drawRacePanel()
     drawBreakawayBox();
     drawDice(DICE_TURN);
     drawExtraCard();
-    drawMovesBoxes();
-    drawRoundAndLap();
+    drawCounts();
     drawHandInSlots();
     drawThrowButton();
     drawExtraDie();

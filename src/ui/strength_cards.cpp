@@ -137,22 +137,26 @@ static void drawDie(const Rect& place, int value)
     glPopMatrix();
 }
 
-static void drawTurnDie(int place)
+// A card that is played lies on its die.
+static void drawTurnDice()
 {
-    const Rect at = dicePlace(place);
-    const int card = race.playedCards[place];
-    drawDie(at, card == -1 ? race.dice[place] : -1);
-    if (card != -1)
-        drawCard(at.x + (at.w - layout.cardW) * 0.5f, at.y, riderTeam(race.currentRider), card,
-                 1.0f);
+    Table<PlacedCard, 2> cards{};
+    std::size_t count = 0;
+    for (const int place : {0, 1}) {
+        const Rect at = dicePlace(place);
+        const int card = race.playedCards[place];
+        drawDie(at, card == -1 ? race.dice[place] : -1);
+        if (card != -1)
+            cards.items[count++] = {at.x + (at.w - layout.cardW) * 0.5f, at.y,
+                                    riderTeam(race.currentRider), card, 1.0f};
+    }
+    drawCards({cards.begin(), count});
 }
 
 void drawDice(DiceMode mode)
 {
-    if (mode == DICE_EXTRA) {
+    if (mode == DICE_EXTRA)
         drawDie(extraDicePlace(), race.extraDie);
-        return;
-    }
-    drawTurnDie(0);
-    drawTurnDie(1);
+    else
+        drawTurnDice();
 }
