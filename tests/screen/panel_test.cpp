@@ -43,22 +43,22 @@ void expectCards(const char* what, const char* looks, const std::initializer_lis
 TEST_F(RaceWords, TellATurnFromItsBeginningToTheNextRiders)
 {
     setEnglishScene(Scene::TURN);
-    EXPECT_EQ(panelWords(), "Belgium|Moves: |Moves left: |Round:2|Lap:0");
+    EXPECT_EQ(panelWords(), "Belgium|Moves: |Lap:0|Moves left: |Round:2");
     const ScriptedRand dice{raceThrow(4, 1)};
     player.click(CONTROL_THROW);
-    EXPECT_EQ(panelWords(), "Belgium|Moves: 5|Moves left: 5|Round:2|Lap:0");
+    EXPECT_EQ(panelWords(), "Belgium|Moves: 5|Lap:0|Moves left: 5|Round:2");
     steer("MM");
     race.extraMoves = 4;
-    EXPECT_EQ(panelWords(), "Belgium|Bonus moves: 4|Moves: 5|Moves left: 3|Round:2|Lap:1");
+    EXPECT_EQ(panelWords(), "Belgium|Bonus moves: 4|Moves: 5|Lap:1|Moves left: 3|Round:2");
     endHumanMove();
     player.key('n'); // nobody follows
     race.riderLapCount[0] = 7;
-    EXPECT_EQ(panelWords(), "Netherlands|Moves: |Moves left: |Round:2|Lap:1");
+    EXPECT_EQ(panelWords(), "Netherlands|Moves: |Lap:1|Moves left: |Round:2");
     race.currentRider = -1;
     gameState = STATE_TRANSIT;
-    EXPECT_EQ(panelWords(), "Moves: |Moves left: |Round:2|Lap:");
+    EXPECT_EQ(panelWords(), "Moves: |Lap:|Moves left: |Round:2");
     gameState = STATE_FINAL_SCORECARD;
-    EXPECT_EQ(panelWords(), "Moves: |Moves left: |Round:|Lap:");
+    EXPECT_EQ(panelWords(), "Moves: |Lap:|Moves left: |Round:");
 }
 
 // A team that lost a tie stands grey and without its throw.
