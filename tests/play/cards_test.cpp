@@ -17,6 +17,14 @@ static Pair laidBy(int rider, Square square, std::initializer_list<int> slots)
     return race.playedCards;
 }
 
+// The person on turn throws 7 and is given a card of this kind.
+static void winCard(int value)
+{
+    throwNumber(raceThrow(3, 4));
+    gameState = STATE_EVENT_CARD_KIND;
+    receiveWonCard(value);
+}
+
 TEST(Cards, ARiderHasHisOwnHisTeamsAndThoseHeWon)
 {
     putPersonOnTurn(5, FLAT);
@@ -50,7 +58,7 @@ TEST(Cards, TheTerrainSaysWhichAndHowMany)
     EXPECT_EQ(laidBy(0, COBBLES, {0, 2}), (Pair{0, -1}));
 }
 
-TEST(Breakaway, NeedsACardAndGoesWithTheLast)
+TEST(Cards, ABreakawayNeedsOneAndAllLieFastAfterTheThrow)
 {
     putPersonOnTurn(0, FLAT);
     toggleBreakaway();
@@ -60,14 +68,16 @@ TEST(Breakaway, NeedsACardAndGoesWithTheLast)
     pickCard(2);
     unpickCard(0);
     EXPECT_EQ(race.breakaway, 1);
-    unpickCard(1);
+    unpickCard(1); // the last
     EXPECT_EQ(race.breakaway, 0);
 
-    race.playedCards[1] = DOPING_CARD; // will do, and can't be taken back
+    pickCard(0);
+    throwNumber(raceThrow(1, 3));
+    pickCard(2);
+    unpickCard(0);
     toggleBreakaway();
-    unpickCard(1);
-    EXPECT_EQ(race.playedCards, (Pair{-1, DOPING_CARD}));
-    EXPECT_EQ(race.breakaway, 1);
+    EXPECT_EQ(race.playedCards, (Pair{0, -1}));
+    EXPECT_EQ(race.breakaway, 0);
 }
 
 TEST(Throw, ACardStandsInForItsDie)
@@ -78,39 +88,22 @@ TEST(Throw, ACardStandsInForItsDie)
         race.wonCardValue[0][2] = WHITE_CARD; // another team's in the same place
         pickCards(slots);
         throwNumber(number);
+        EXPECT_EQ(race.movesTotal, race.dice[0] + race.dice[1]);
         return race.dice;
     };
     EXPECT_EQ(diceWith({}, 36 + 8), (Pair{3, 2}));
     EXPECT_EQ(diceWith({4}, raceThrow(3, 2)), (Pair{6, 2}));
     EXPECT_EQ(diceWith({13, 16}, raceThrow(3, 2)), (Pair{5, 6}));
-
-    putPersonOnTurn(5, FLAT);
-    pickCards({4, 5});
-    unpickCard(0);
-    throwNumber(raceThrow(3, 2));
-    EXPECT_EQ(race.dice, (Pair{3, 5}));
-    EXPECT_EQ(race.movesTotal, 8);
 }
 
 TEST(Throw, TheSquareAddsToItAndMayStopTheRider)
 {
     for (const int second : {2, 3}) {
         putPersonOnTurn(0, MOUNTAIN);
-        race.stepsTaken = 4; // of the one before
         throwNumber(raceThrow(1, second));
         EXPECT_EQ(race.moveBudget, second - 2);
         EXPECT_EQ(gameState, second == 2 ? STATE_NO_MOVE : STATE_MOVE);
-        EXPECT_EQ(race.stepsTaken, 0);
     }
-}
-
-// Rider 5, on turn, throws 7 and is given a card of this kind. Whether he is asked when he uses it.
-static bool winCard(int value)
-{
-    throwNumber(raceThrow(3, 4));
-    gameState = STATE_EVENT_CARD_KIND;
-    receiveWonCard(value);
-    return gameState == STATE_EVENT_CARD_WHEN;
 }
 
 TEST(WonCard, IsUsedAtOnceOrGoesToTheFirstFreeSlot)
@@ -120,7 +113,8 @@ TEST(WonCard, IsUsedAtOnceOrGoesToTheFirstFreeSlot)
         giveWonCard(14, 6, WHITE_CARD);
         giveWonCard(15, 6, WHITE_CARD);
         race.cardUsed[1][15] = CARD_SPENT;
-        EXPECT_TRUE(winCard(BLUE_CARD));
+        winCard(BLUE_CARD);
+        EXPECT_EQ(gameState, STATE_EVENT_CARD_WHEN);
         useWonCard(now);
         EXPECT_EQ(gameState, STATE_MOVE);
         EXPECT_EQ(race.cardUsed[1][15], now ? CARD_SPENT : CARD_AVAILABLE);
@@ -130,16 +124,16 @@ TEST(WonCard, IsUsedAtOnceOrGoesToTheFirstFreeSlot)
         EXPECT_EQ(race.bonusMoves, now ? BLUE_CARD : 0);
         EXPECT_EQ(race.movesTotal, 7);
     }
-    putPersonOnTurn(5, MOUNTAIN);
-    EXPECT_TRUE(winCard(WHITE_CARD));
-    putPersonOnTurn(5, MOUNTAIN);
-    EXPECT_FALSE(winCard(BLUE_CARD)); // is no use there, and kept unasked
-    EXPECT_EQ(gameState, STATE_MOVE);
-    EXPECT_EQ(race.cardUsed[1][14], CARD_AVAILABLE);
 }
 
-TEST(WonCard, TheFifthIsLost)
+TEST(WonCard, BlueOnAMountainIsKeptUnaskedAndTheFifthIsLost)
 {
+    for (const int value : {BLUE_CARD, WHITE_CARD}) {
+        putPersonOnTurn(5, MOUNTAIN);
+        winCard(value);
+        EXPECT_EQ(gameState, value == BLUE_CARD ? STATE_MOVE : STATE_EVENT_CARD_WHEN);
+        EXPECT_EQ(race.cardUsed[1][14], value == BLUE_CARD ? CARD_AVAILABLE : CARD_NONE);
+    }
     putPersonOnTurn(5, FLAT);
     for (int slot = SET_CARD_COUNT; slot < CARD_SLOT_COUNT; ++slot)
         giveWonCard(slot, 6, WHITE_CARD);

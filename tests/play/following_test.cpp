@@ -16,15 +16,6 @@ static void lead(int rider, std::string_view letters, int unused = 0)
     endHumanMove();
 }
 
-// Whether rider 4, who may follow rider 0, is asked.
-static bool asksRider4(const std::vector<Placed>& placed, std::string_view letters)
-{
-    setUpPersonsRace(ONE_LAP, placed);
-    lead(0, letters);
-    EXPECT_EQ(gameState == STATE_TURN, gameState != STATE_FOLLOW_PROMPT);
-    return gameState == STATE_FOLLOW_PROMPT && race.followerRider == 4;
-}
-
 static void expectYes(int rider)
 {
     EXPECT_EQ(gameState, STATE_FOLLOW_PROMPT);
@@ -32,6 +23,15 @@ static void expectYes(int rider)
     EXPECT_EQ(view.shownTeam, riderTeam(rider));
     EXPECT_EQ(race.currentRider, 0); // the question names the leader
     followYes();
+}
+
+// Whether rider 4, who may follow rider 0, is asked.
+static bool asksRider4(const std::vector<Placed>& placed, std::string_view letters, int unused = 0)
+{
+    setUpPersonsRace(ONE_LAP, placed);
+    lead(0, letters, unused);
+    EXPECT_EQ(gameState == STATE_TURN, gameState != STATE_FOLLOW_PROMPT);
+    return gameState == STATE_FOLLOW_PROMPT && race.followerRider == 4;
 }
 
 // Rider 4 becomes a computer's, to whom every square is worth the same.
@@ -42,16 +42,19 @@ static void letComputerJudge()
     course.reach11 = gridOf(WORTH - 1);
 }
 
-// Rider 0 moves from this row with rider 4, the computer's, in his wake. A square that is worth
-// something else is among those before him.
-static bool computerFollows(int row, int lane, std::string_view letters, int otherRow, int worth)
+// Rider 0 moves from this square with rider 4, the computer's, in his wake, and a person's
+// behind. The squares of one row are worth something else. With a no the chain ends.
+static bool computerFollows(Square from, std::string_view letters, int otherRow, int worth)
 {
-    setUpPersonsRace(ONE_LAP, {{0, row, lane}, {4, row - 1, lane}, {12, 20, 4}});
+    setUpPersonsRace(
+        ONE_LAP,
+        {{0, from.row, from.lane}, {4, from.row - 1, from.lane}, {9, from.row - 2, from.lane}});
     letComputerJudge();
-    for (int& reach : course.reach12[otherRow])
-        reach = worth;
+    course.reach12[otherRow] = filled<int, COURSE_LANES>(worth);
     lead(0, letters);
-    return race.riders[4].hasMoved != 0;
+    const bool follows = race.riders[4].hasMoved != 0;
+    EXPECT_EQ(onTurn(), follows ? (OnTurn{0, STATE_FOLLOW_PROMPT}) : (OnTurn{4, STATE_ANIMATE}));
+    return follows;
 }
 
 TEST(Following, TheWholeLineComesAlongInTheLeadersLane)
@@ -67,23 +70,15 @@ TEST(Following, TheWholeLineComesAlongInTheLeadersLane)
     EXPECT_EQ(occupant(105, 6), 12);
     EXPECT_EQ(occupant(103, 5), -1);
     EXPECT_EQ(race.roundNumber, 3); // all four have had their turn
-
-    setUpPersonsRace(ONE_LAP, {{0, 10, 0}, {4, 8, 0}});
-    lead(0, "M"); // to 13, 0: rows 12, 11 and 9 have no squares in this lane
-    expectYes(4);
-    EXPECT_EQ(squareOfRider(4), (Square{10, 0})); // where the leader stood
 }
 
 TEST(Following, ANoEndsTheChain)
 {
-    setUpPersonsRace(ONE_LAP, {{0, 104, 5}, {4, 103, 5}, {9, 102, 5}, {12, 103, 7}});
-    lead(0, "MMM");
+    ASSERT_TRUE(asksRider4({{0, 104, 5}, {4, 103, 5}, {9, 102, 5}, {12, 103, 7}}, "MMM"));
     followNo();
     EXPECT_EQ(onTurn(), (OnTurn{12, STATE_TURN}));
     EXPECT_EQ(occupant(103, 5), 4);
     EXPECT_EQ(race.riders[4].hasMoved, 0);
-    followYes(); // no question stands any more
-    EXPECT_EQ(occupant(103, 5), 4);
 }
 
 TEST(Following, OnlyWhoIsDirectlyBehindOnTheSameTerrainAndHasNotMoved)
@@ -101,18 +96,16 @@ TEST(Following, OnlyWhoIsDirectlyBehindOnTheSameTerrainAndHasNotMoved)
     race.breakaway = 1;
     lead(0, "MMM");
     EXPECT_EQ(onTurn(), (OnTurn{4, STATE_TURN}));
+    EXPECT_EQ(occupant(107, 5), 0);
 }
 
+// From 8, 3 to 13, 4 it takes three steps.
 TEST(Following, TheWayMayCostTheMovesThatTheLeaderMade)
 {
-    // From 8, 3 to 13, 4 it takes three steps.
-    setUpPersonsRace(ONE_LAP, {{0, 10, 3}, {4, 8, 3}});
-    lead(0, "MR", 7);
-    EXPECT_EQ(gameState, STATE_TURN);
+    EXPECT_FALSE(asksRider4({{0, 10, 3}, {4, 8, 3}}, "MR", 7));
 
-    setUpPersonsRace(ONE_LAP, {{0, 13, 3}, {4, 10, 3}, {9, 8, 3}});
-    lead(0, "MR", 7);
-    expectYes(4); // behind a person's yes the chain has all the leader's moves
+    ASSERT_TRUE(asksRider4({{0, 13, 3}, {4, 10, 3}, {9, 8, 3}}, "MR", 7));
+    followYes(); // behind a person's yes the chain has all the leader's moves
     expectYes(9);
     EXPECT_EQ(squareOfRider(9), (Square{13, 4}));
 
@@ -137,16 +130,15 @@ TEST(Following, ARiderALapAheadFollowsOnHisOwnLap)
 
 TEST(ComputerFollower, ComesToASquareAsGoodAsHisOwnTurnPromises)
 {
-    EXPECT_TRUE(computerFollows(104, 5, "MMM", 106, WORTH));
+    EXPECT_TRUE(computerFollows({104, 5}, "MMM", 106, WORTH));
     EXPECT_EQ(squareOfRider(4), (Square{106, 5}));
-    EXPECT_FALSE(computerFollows(104, 5, "MMM", 106, WORTH - 1));
+    EXPECT_FALSE(computerFollows({104, 5}, "MMM", 106, WORTH - 1));
     // With a seven of his own he would do better, but not beyond it. A descent adds 4.
-    EXPECT_FALSE(computerFollows(104, 5, "MMM", 103 + 7, WORTH + 10));
-    EXPECT_TRUE(computerFollows(104, 5, "MMM", 103 + 8, WORTH + 10));
-    EXPECT_FALSE(computerFollows(48, 3, "MM", 47 + 11, WORTH + 10));
+    EXPECT_FALSE(computerFollows({104, 5}, "MMM", 103 + 7, WORTH + 10));
+    EXPECT_TRUE(computerFollows({104, 5}, "MMM", 103 + 8, WORTH + 10));
+    EXPECT_FALSE(computerFollows({48, 3}, "MM", 47 + 11, WORTH + 10));
     // Across the finish he comes always; the line itself lies before it.
-    EXPECT_FALSE(computerFollows(112, 5, "MMM", 114, 1));
-    EXPECT_TRUE(computerFollows(113, 5, "MMM", 115, 1));
+    EXPECT_FALSE(computerFollows({112, 5}, "MMM", 114, 1));
+    EXPECT_TRUE(computerFollows({113, 5}, "MMM", 115, 1));
     EXPECT_EQ(race.resultSlots[FINISH_SLOT + 1], 4);
-    EXPECT_EQ(race.riders[4].finished, 1);
 }

@@ -24,9 +24,8 @@ static Teams teamsAskedFor(std::initializer_list<int> sums)
     for (const int sum : sums) {
         asked.push_back(riderTeam(race.currentRider));
         const int first = std::min(6, sum - 1);
-        const ScriptedRand script{36 + (first - 1) * 6 + sum - first - 1}; // one number for both
+        const ScriptedRand script{raceThrow(sum - first, first)}; // the other way round
         throwForOrder();
-        throwForOrder(); // a throw stands
         EXPECT_EQ(race.dice, (Pair{first, sum - first}));
         afterOrderThrow();
         EXPECT_EQ(race.dice, (Pair{-1, -1})); // none lies there for the next team
@@ -34,25 +33,27 @@ static Teams teamsAskedFor(std::initializer_list<int> sums)
     return asked;
 }
 
-// This team of persons has won the throw.
-static void waitForPlacing(int team, std::string_view text = ONE_LAP)
+// The first team, of persons as all are, has won the throw.
+static void waitForPlacing(std::string_view text = ONE_LAP)
 {
     startSeededRace(text, 1);
     for (Rider& rider : race.riders)
         rider.isHuman = 1;
-    race.teamThrow = {2, 2, 2, 2};
-    race.teamThrow[team] = 12;
+    race.teamThrow = {12, 2, 2, 2};
     afterOrderThrow();
 }
 
-static void placeOn(int row, int lane)
+// Whether the rider who is to be placed is let onto this square.
+static bool placeOn(int row, int lane)
 {
+    const int rider = race.currentRider;
     race.placingRow = row;
     race.placingLane = lane;
     placeHumanRider();
+    return occupant(row, lane) == rider && race.currentRider != rider;
 }
 
-TEST(OrderThrow, OnlyTheTiedThrowAgain)
+TEST(OrderThrow, OnlyTheTiedThrowAgainAndTheWinnersLeadEachCycleOfPlacing)
 {
     waitForOrderThrow();
     EXPECT_EQ(teamsAskedFor({9, 4, 9, 9, /* team 1 is out */ 6, 8, 8, /* so is team 0 */ 3, 11}),
@@ -60,57 +61,43 @@ TEST(OrderThrow, OnlyTheTiedThrowAgain)
     EXPECT_EQ(race.firstPlacer, 12);
 
     waitForOrderThrow();
-    EXPECT_EQ(teamsAskedFor({5, 5, 5, 5, /* all again */ 8, 12, 3, 12, /* 1 and 3 */ 4, 2}),
-              (Teams{0, 1, 2, 3, 0, 1, 2, 3, 1, 3}));
-    EXPECT_EQ(race.firstPlacer, 4); // though he didn't throw last
-    EXPECT_EQ(onTurn(), (OnTurn{4, STATE_PLACE_HUMAN}));
-}
-
-TEST(Placing, TheTeamThatWonLeadsEachCycle)
-{
-    waitForPlacing(2);
-    std::vector<int> placed;
-    while (gameState == STATE_PLACE_HUMAN && placed.size() < RIDER_COUNT) {
-        placed.push_back(race.currentRider);
-        placeOn(riderTeam(race.currentRider), riderPlace(race.currentRider));
+    EXPECT_EQ(teamsAskedFor({5, 5, 5, 5, /* all again */ 8, 3, 12, 12, /* 2 and 3 */ 4, 2}),
+              (Teams{0, 1, 2, 3, 0, 1, 2, 3, 2, 3}));
+    EXPECT_EQ(onTurn(), (OnTurn{8, STATE_PLACE_HUMAN})); // though team 3 threw last
+    std::vector<int> placers = {race.currentRider};
+    while (placers.size() < RIDER_COUNT) {
+        nextPlacer();
+        placers.push_back(race.currentRider);
     }
-    EXPECT_EQ(placed, (std::vector{8, 12, 0, 4, 9, 13, 1, 5, 10, 14, 2, 6, 11, 15, 3, 7}));
-    EXPECT_EQ(gameState, STATE_TURN);
-    EXPECT_EQ(race.roundNumber, 1);
+    EXPECT_EQ(placers, (std::vector{8, 12, 0, 4, 9, 13, 1, 5, 10, 14, 2, 6, 11, 15, 3, 7}));
 }
 
 TEST(Placing, OneOfATeamInALane)
 {
-    waitForPlacing(0);
-    placeOn(4, 2); // behind the start rows
-    placeOn(0, 5); // beside the road
-    EXPECT_EQ(race.currentRider, 0);
-    placeOn(2, 3);
-    EXPECT_EQ(occupant(2, 3), 0);
+    waitForPlacing();
+    EXPECT_FALSE(placeOn(4, 2)); // behind the start rows
+    EXPECT_FALSE(placeOn(0, 5)); // beside the road
+    EXPECT_TRUE(placeOn(2, 3));
     EXPECT_EQ(squareOfRider(0), (Square{2, 3}));
-    EXPECT_EQ(race.placingRow, 0); // the cursor is back
-    EXPECT_EQ(race.placingLane, 0);
-    placeOn(2, 3); // taken
-    EXPECT_EQ(race.currentRider, 4);
-    placeOn(3, 3);
-    placeOn(0, 2);
-    placeOn(0, 1);
-    placeOn(1, 3); // behind a team-mate
-    placeOn(0, 3);
-    EXPECT_EQ(race.currentRider, 1);
-    placeOn(1, 2);
-    EXPECT_EQ(race.currentRider, 5);
+    EXPECT_EQ((Square{race.placingRow, race.placingLane}), (Square{0, 0})); // the cursor is back
+    EXPECT_FALSE(placeOn(2, 3));                                            // taken
+    EXPECT_TRUE(placeOn(3, 3));
+    EXPECT_TRUE(placeOn(0, 2));
+    EXPECT_TRUE(placeOn(0, 1));
+    EXPECT_FALSE(placeOn(1, 3)); // behind a team-mate
+    EXPECT_FALSE(placeOn(3, 3));
+    EXPECT_TRUE(placeOn(1, 2));
 }
 
 TEST(Placing, TheCursorStaysOnTheRoad)
 {
     for (const bool start2 : {false, true}) {
-        waitForPlacing(0, start2 ? FROM_START_2 : ONE_LAP);
-        const int right = start2 ? 4 : 0;
-        EXPECT_EQ(race.placingLane, right);
+        waitForPlacing(start2 ? FROM_START_2 : ONE_LAP);
+        const auto cursor = [] { return Square{race.placingRow, race.placingLane}; };
+        EXPECT_EQ(cursor(), (Square{0, start2 ? 4 : 0}));
         movePlacingCursor(-1, -1);
-        EXPECT_EQ((Square{race.placingRow, race.placingLane}), (Square{0, right}));
+        EXPECT_EQ(cursor(), (Square{0, start2 ? 4 : 0}));
         movePlacingCursor(9, 9);
-        EXPECT_EQ((Square{race.placingRow, race.placingLane}), (Square{3, start2 ? 7 : 4}));
+        EXPECT_EQ(cursor(), (Square{3, start2 ? 7 : 4}));
     }
 }

@@ -1,7 +1,6 @@
 #include "play/turn_cycle.h"
 
 #include "play/movement.h"
-#include "race/soundness.h"
 #include "support/races.h"
 #include "support/scripted_rand.h"
 
@@ -20,11 +19,6 @@ static void setBack(std::string_view text, const std::vector<Placed>& riders,
     nextTurn();
 }
 
-static bool finished(int rider)
-{
-    return race.riders[rider].finished != 0;
-}
-
 TEST(NextTurn, FrontMostOfThoseLeftPlays)
 {
     setUpPersonsRace(ONE_LAP, {{3, 7, 2}, {6, 7, 4}, {9, 6, 4}, {14, 8, 0, MOVED}});
@@ -40,77 +34,58 @@ TEST(NextTurn, FrontMostOfThoseLeftPlays)
 TEST(NextTurn, ForgetsTheMoveBefore)
 {
     setUpPersonsRace(ONE_LAP, {{3, 7, 2}});
-    race.moveBudget = 9;
-    race.stepsTaken = 4;
     race.dice = race.playedCards = race.handInCards = {3, 1};
-    race.extraMoves = race.bonusMoves = race.extraDie = race.dopingCardValue = 5;
-    race.breakaway = 1;
-    race.followerRider = race.eventRider = 7;
-    race.followerPlan[7] = 100;
+    race.moveBudget = race.extraMoves = race.bonusMoves = race.extraDie = 5;
+    race.dopingCardValue = race.breakaway = 1;
     nextTurn();
-    EXPECT_EQ(race.moveBudget, -1);
-    EXPECT_EQ(race.stepsTaken, 0);
     for (const Pair& pair : {race.dice, race.playedCards, race.handInCards})
         EXPECT_EQ(pair, (Pair{-1, -1}));
-    EXPECT_FALSE(race.extraMoves || race.bonusMoves || race.breakaway);
-    for (const int none : {race.extraDie, race.dopingCardValue, race.followerRider, race.eventRider,
-                           race.followerPlan[7]})
+    for (const int none : {race.moveBudget, race.extraDie, race.dopingCardValue})
         EXPECT_EQ(none, -1);
+    EXPECT_FALSE(race.extraMoves || race.bonusMoves || race.breakaway);
 }
 
-// Whoever watches confirms the event card, and that a climb of -6 has taken the whole throw.
-TEST(ComputerTurn, WaitsForTheOkThatPersonsGiveToo)
+// In lane 4 row 119 has no square of its own; the line is row 114. 7, 1 is the same printed square
+// as 116, 4: a lapped rider fills a gap.
+TEST(Finishers, TheLineDirectlyBehindLeavesWithTheLeader)
 {
-    for (const int second : {4, 3}) {
-        setUpRace(ONE_LAP, {{0, 43, 2}});
-        raceSetup.eventCardsOn = true;
-        leaveCards(0, {});
-        const ScriptedRand script{raceThrow(3, second)};
+    for (const bool gap : {false, true}) {
+        setUpPersonsRace(ONE_LAP, {{0, 120, 4, MOVED},
+                                   {1, 118, 4, MOVED},
+                                   {2, 117, 4, MOVED},
+                                   {3, 115, 4, MOVED},
+                                   {6, 114, 4, MOVED},
+                                   {5, 7, 1, MOVED},
+                                   {8, 50, 3}});
+        if (gap)
+            liftOffBoard(5);
+        race.currentRider = 0;
         nextTurn();
-        EXPECT_EQ(gameState, second == 4 ? STATE_EVENT_CARD : STATE_NO_MOVE);
+        for (const int rider : {0, 1, 2, 3, 5, 6})
+            EXPECT_EQ(race.riders[rider].finished, rider < (gap ? 3 : 4)) << rider;
+        EXPECT_EQ(occupant(115, 4), gap ? 3 : -1);
     }
 }
 
-TEST(Finishers, TheLineDirectlyBehindLeavesWithTheLeader)
-{
-    // In lane 4 row 119 has no square of its own, and nobody stands on row 116.
-    setUpPersonsRace(ONE_LAP, {{0, 120, 4, MOVED},
-                               {1, 118, 4, MOVED},
-                               {2, 117, 4, MOVED},
-                               {3, 115, 4, MOVED},
-                               {8, 50, 3}});
-    race.currentRider = 0;
-    nextTurn();
-    EXPECT_TRUE(finished(0) && finished(1) && finished(2));
-    EXPECT_EQ(occupant(117, 4), -1);
-    EXPECT_FALSE(finished(3));
-    EXPECT_EQ(occupant(115, 4), 3);
-
-    // Nobody on the line. 7, 1 is the same printed square as 116, 4: a lapped rider fills a gap.
-    setUpPersonsRace(
-        ONE_LAP, {{0, 117, 4, MOVED}, {5, 7, 1, MOVED}, {1, 115, 4, MOVED}, {2, 114, 4, MOVED}});
-    race.currentRider = 0;
-    nextTurn();
-    EXPECT_TRUE(finished(1));
-    EXPECT_FALSE(finished(5) || finished(2));
-    EXPECT_EQ(race.currentRider, 2);
-}
-
-TEST(RoundEnd, WhoMissesTurnsStaysAwayForThem)
+TEST(RoundEnd, WhoMissesTurnsHoldsNobodyUpAndStaysAway)
 {
     setUpPersonsRace(ONE_LAP, {{0, 7, 2, MOVED}, {5, 8, 2}});
     liftOffBoard(5);
     race.riders[5].skipTurns = 2;
-    for (const int rider : {0, 0, 5}) {
+    for (const int left : {1, 0}) {
+        race.riders[0].hasMoved = 1;
         nextTurn();
-        EXPECT_EQ(race.currentRider, rider);
-        EXPECT_EQ(race.riders[5].offBoard, rider == 0);
-        race.riders[rider].hasMoved = 1;
+        EXPECT_EQ(race.currentRider, 0);
+        EXPECT_EQ(race.riders[5].skipTurns, left);
+        EXPECT_TRUE(race.riders[5].offBoard);
     }
-    EXPECT_EQ(race.roundNumber, 5);
+    race.riders[0].hasMoved = 1;
+    nextTurn();
+    EXPECT_EQ(race.currentRider, 5);
+    EXPECT_EQ(squareOfRider(5), (Square{8, 2})); // his own is free
+    EXPECT_FALSE(race.riders[5].offBoard);
 
     setUpPersonsRace(ONE_LAP, {{5, 8, 2}}); // rounds without a player pass at once
-    liftOffBoard(5);
     race.riders[5].skipTurns = 2;
     nextTurn();
     EXPECT_EQ(race.roundNumber, 5);
@@ -119,10 +94,6 @@ TEST(RoundEnd, WhoMissesTurnsStaysAwayForThem)
 
 TEST(SetBack, FirstToTheLeftThenFromTheRightOfTheRowBehind)
 {
-    setBack(ONE_LAP, {{5, 7, 2}}, {});
-    EXPECT_EQ(occupant(7, 2), -1); // on his own square, and on turn
-    EXPECT_EQ(onTurn(), (OnTurn{5, STATE_TURN}));
-
     setBack(ONE_LAP, {{5, 7, 2}, {6, 8, 1}, {7, 12, 4}}, {{7, 2}, {8, 1}, {8, 0}, {12, 4}});
     EXPECT_EQ(squareOfRider(7), (Square{11, 2})); // row 12 has no other square, row 11 lanes 1, 2
     EXPECT_EQ(squareOfRider(6), (Square{7, 4}));
@@ -138,7 +109,7 @@ TEST(SetBack, FirstToTheLeftThenFromTheRightOfTheRowBehind)
     setBack(TWO_LAPS, {{5, 7, 2}}, {{116, 5}}); // the same printed square
     EXPECT_EQ(squareOfRider(5), (Square{7, 1}));
 
-    setBack(ONE_LAP, {{5, 6, 0}}, {{6, 0}}); // over the line, into the lap behind it
+    setBack(ONE_LAP, {{5, 6, 0}}, {{6, 0}}); // over the line of a lap
     EXPECT_EQ(squareOfRider(5), (Square{5, 4}));
     EXPECT_EQ(race.riderLapCount[5], 0);
 }
@@ -147,23 +118,13 @@ TEST(SetBack, FirstToTheLeftThenFromTheRightOfTheRowBehind)
 // him back; whoever stands on his old square stays there.
 TEST(SetBack, WhoFoundNoSquareIsBackOnceHeHasMoved)
 {
-    setUpPersonsRace(ONE_LAP, {{0, 0, 0}, {5, 0, 0, MOVED}});
-    race.riders[0].offBoard = 1;
+    setUpPersonsRace(ONE_LAP, {{5, 0, 0, MOVED}, {1, 0, 1, MOVED}});
+    race.riders[0] = {.row = 0, .lane = 0, .offBoard = 1, .isHuman = 1};
     nextTurn();
     throwNumber(raceThrow(1, 1));
     steer("M");
     EXPECT_EQ(race.riders[0].offBoard, 0); // and is seen there
-    steer("M");
     endHumanMove();
+    EXPECT_EQ(squareOfRider(0), (Square{1, 0}));
     EXPECT_EQ(occupant(0, 0), 5);
-}
-
-TEST(StageEnd, ComesWhenNobodyIsLeftToPlay)
-{
-    // The second one lies past the finish and was never taken off: he can't hold up the stage.
-    setUpPersonsRace(ONE_LAP, {{0, 116, 4, MOVED}, {1, 116, 6, MOVED}});
-    race.currentRider = 0;
-    nextTurn();
-    EXPECT_EQ(onTurn(), (OnTurn{-1, STATE_DOPING_DRAW})); // at once, with or without doping
-    EXPECT_NE(race.dopingDraw[0], 0);
 }
