@@ -68,18 +68,8 @@ findControls()
             put("languages", v * 0.5, h * 0.3 + 10)
             put("french", v * 0.5, h * (0.1 + 2 * 0.217 + 0.075))
             put("english", v * 0.5, h * (0.1 + 0.217 + 0.075))
-            put("firstName", v * 0.4 + 3, h * 0.4 + 7)
-            for (i = 0; i < 2; i++) {
-                put("computer" i, v * 0.4 + 97 * 1.2 + 3, h * 0.41 + i * (h * 0.01 + 15))
-                put("computerMiddle" i, v * 0.4 + 97 * 1.2 + h * 0.01, h * 0.41 + i * (h * 0.01 + 15))
-            }
+            put("computer", v * 0.4 + 97 * 1.2 + 3, h * 0.41)
             put("raceName", v * 0.545 + 3, h * 0.57)
-            put("eventBox", v * 0.4 + 3, h * 0.655)
-            put("eventBoxMiddle", v * 0.4 + h * 0.01, h * 0.655)
-            put("add", v * 0.5, h * 0.915)
-            put("finishBox", v * 0.45 + 4, h * 0.885)
-            put("finishMiddle", v * 0.45 + h * 0.01, h * 0.885)
-            put("save", v * 0.8 - v * 0.032 + 8, h * 0.915)
             put("firstDie", throwX + cardH * 0.5, hud + cardH * 0.62)
             put("firstRace", v * 0.2 + 12, h * 0.2 + 12)
             put("listOkEdge", v * 0.5 + buttonW * 0.6 + 3, h * 0.8 + 4)
@@ -119,45 +109,6 @@ chooseOneStage()
     until_ 5 "the choice of one stage" pixelIs singleStage 000000
     click setupOk
     until_ 5 "the courses" coursesOpen
-}
-
-# From the choice of a course to a race on one of so many sections, which is saved before.
-designCourse()
-{
-    xdotool key c
-    until_ 5 "the designer" pixelIsNot courseFrame 000033
-    for ((i = 1; i < $1; i++)); do
-        untilChanged "a section" click add
-    done
-    click finishBox
-    until_ 5 "the mark of the finish" pixelIs finishMiddle 000000
-    untilChanged "the last section" click add
-    click save
-    until_ 5 "the saved course" test -s run/courses
-    click add
-    until_ 10 "the race" throwOpen
-}
-
-throwForOrder()
-{
-    while throwOpen; do
-        untilChanged "a throw" xdotool key t n
-    done
-}
-
-# Up and down the grid, so that free squares are met, until all stand.
-placeRiders()
-{
-    local across="Left Left Left Up Right Right Right Up"
-    local direction
-    for _ in {1..6}; do
-        for direction in $across $across $across Down Down Down Down Down; do
-            xdotool key --delay 15 Return "$direction"
-            ! throwOpen || return 0
-            ! dialogOpen || return 0
-        done
-    done
-    fail "the riders aren't placed"
 }
 
 # The colour of the middle of a control as RRGGBB.
