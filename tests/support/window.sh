@@ -1,7 +1,7 @@
 # shellcheck shell=bash
 # To be sourced. Hands and eyes for tests of the program in a real window on the display at hand:
-# clicks, keys, and pixels of the screen. A test calls startGame first. Screenshots stay in the
-# current folder.
+# clicks, keys, and pixels of the screen. A test calls startGame first. What the screen showed at a
+# failure stays in the current folder.
 
 gamePid=
 # Settings in English, smooth, no delay, 999 board units a tick.
@@ -194,8 +194,6 @@ click()
     point "$1"
     xdotool click "${2:-1}"
 }
-
-shot() { import -silent -window root "$1.png"; }
 
 # Hundredths of a second of processor time that the program has used.
 processorTime()

@@ -71,7 +71,6 @@ xdotool key F7
 until_ 5 "the card to be taken back" pixelIs firstDie 990000
 xdotool key F7 t
 until_ 5 "the throw" thrown
-shot played
 rideOn
 quitRace
 xdotool key e
