@@ -6,11 +6,11 @@ build/mutation, never here. See "Measure the tests" in docs/how-to.md.
 """
 
 import argparse
+import concurrent.futures
 import os
 import pathlib
 import re
 import shutil
-import signal
 import subprocess
 import sys
 import time
@@ -18,6 +18,7 @@ import time
 HERE = pathlib.Path(__file__).resolve().parent
 ROOT = HERE.parents[1]
 WORK = ROOT / "build/mutation"
+DISPLAY = HERE.parent / "support/on_virtual_display.sh"
 PROGRAMS = ["game_tests", "screen_tests"]
 LEFT_OUT = "-Monkey.*"  # presses at random, and takes its time
 SLOW_MS = 500  # tests that take longer come last
@@ -72,21 +73,14 @@ class Workplace:
     def run(self, command, limit=None):
         """Its exit status, or None if it didn't end within the seconds given."""
         with self.log.open("w") as log:
-            running = subprocess.Popen(command, cwd=self.built, stdout=log, stderr=log,
-                                       start_new_session=True)
-        try:
-            return running.wait(limit)
-        except subprocess.TimeoutExpired:
-            return None
-        finally:
-            if running.poll() is None:
-                os.killpg(running.pid, signal.SIGKILL)
+            try:
+                return subprocess.run(command, cwd=self.built, stdout=log, stderr=log,
+                                      timeout=limit).returncode
+            except subprocess.TimeoutExpired:
+                return None
 
     def build(self, program):
         return self.run(["cmake", "--build", ".", "--target", program, "--", "-j1"]) == 0
-
-    def dateOf(self, program):
-        return (self.built / "tests" / program).stat().st_mtime_ns
 
     def test(self, program, chosen, limit=600):
         """The test that failed, crashed or didn't end in time; none if all passed."""
@@ -116,13 +110,10 @@ class Workplace:
             return "AMBIGUOUS" if places else "GONE", None
         path.write_text(before[:places[0][0]] + new + before[places[0][1]:])
         try:
-            for program in PROGRAMS:
-                dateBefore = self.dateOf(program)
+            for program, rounds in self.rounds.items():
                 if not self.build(program):
                     return "NO COMPILE", None
-                if self.dateOf(program) == dateBefore:
-                    continue
-                for chosen, limit in self.rounds[program]:
+                for chosen, limit in rounds:
                     if failed := self.test(program, chosen, limit):
                         return "caught", failed
             return "SURVIVED", None
@@ -131,50 +122,38 @@ class Workplace:
 
 
 def work(folder, mutations):
+    """A line for each of these mutations, printed as soon as it is known."""
     place = Workplace(folder)
+    lines = []
     for number, file, old, new, effect in mutations:
         verdict, catcher = place.judge(file, old, new)
         told = catcher or f"{old}  ->  {new}  ({effect})"
-        print(f"{number:4}  {verdict:10}  {file:24}  {told}", flush=True)
-
-
-def measure(jobs):
-    """Shares the mutations out, each part with a display of its own, and sums up."""
-    start = time.monotonic()
-    command = [HERE.parent / "support/on_virtual_display.sh", sys.executable, *sys.argv, "--part"]
-    parts = [subprocess.Popen([*command, str(part)], stdout=subprocess.PIPE, text=True)
-             for part in range(jobs)]
-    lines = []
-    try:
-        for part in parts:
-            for line in part.stdout:
-                print(line, end="", flush=True)
-                lines.append(line)
-        if any([part.wait() for part in parts]):
-            sys.exit(1)
-    finally:
-        for part in parts:
-            part.terminate()
-    survivors = [line for line in lines if "  SURVIVED  " in line]
-    caught = sum("  caught  " in line for line in lines)
-    tried = caught + len(survivors)
-    print("\nSurvivors:\n", *survivors, sep="")
-    print(f"Caught {caught} of {tried}, {100 * caught / max(tried, 1):.1f} %; {len(lines) - tried}",
-          f"couldn't be tried. It took {(time.monotonic() - start) / 60:.0f} minutes.")
+        lines.append(f"{number:4}  {verdict:10}  {file:24}  {told}")
+        print(lines[-1], flush=True)
+    return lines
 
 
 def main():
     parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
     parser.add_argument("--only", default="", metavar="PATTERN", help="mutations with this in them")
     parser.add_argument("--jobs", type=int, default=1, metavar="N", help="work in so many copies")
-    parser.add_argument("--part", type=int, help=argparse.SUPPRESS)
+    parser.add_argument("--here", action="store_true", help="show the windows on this display")
     options = parser.parse_args()
-    mutations = readList(options.only)
-    if options.part is None:
-        return measure(options.jobs)
-    signal.signal(signal.SIGTERM, lambda *_: sys.exit(143))
+    if not options.here:
+        os.execv(DISPLAY, [DISPLAY, sys.executable, *sys.argv, "--here"])
     os.nice(10)
-    work(WORK / str(options.part), mutations[options.part::options.jobs])
+    start = time.monotonic()
+    mutations = readList(options.only)
+    with concurrent.futures.ThreadPoolExecutor() as pool:
+        parts = [pool.submit(work, WORK / str(job), mutations[job::options.jobs])
+                 for job in range(options.jobs)]
+        lines = [line for part in parts for line in part.result()]
+    survivors = [line for line in lines if "  SURVIVED  " in line]
+    caught = sum("  caught  " in line for line in lines)
+    tried = caught + len(survivors)
+    print("\nSurvivors:", *survivors, sep="\n")
+    print(f"Caught {caught} of {tried}, {100 * caught / max(tried, 1):.1f} %; {len(lines) - tried}",
+          f"couldn't be tried. It took {(time.monotonic() - start) / 60:.0f} minutes.")
 
 
 main()
