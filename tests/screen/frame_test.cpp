@@ -104,24 +104,6 @@ TEST_F(Frame, LooksTheSameWheneverItIsPainted)
     EXPECT_TRUE(screenshot() == first);
 }
 
-// His team's own pawn is looked for where he stands; the number stands below the middle.
-TEST_F(Frame, TheRiderOnTurnIsSeenAtEveryTick)
-{
-    startRaceOn(ONE_LAP);
-    goToFirstMove();
-    const int rider = race.currentRider;
-    const Rider& now = race.riders[rider];
-    BoardPoint last = {now.x, now.y};
-    int moved = 0;
-    for (; gameState == STATE_ANIMATE && runTick() && race.currentRider == rider; ++moved) {
-        const ScreenPoint at = seenAt(now.x, now.y - 9.0f);
-        EXPECT_EQ(screenshot().at(at.x, at.y), pixelOf(teamColour[riderTeam(rider)])) << moved;
-        EXPECT_LT(std::hypot(now.x - last.x, now.y - last.y), 15.0f) << moved;
-        last = {now.x, now.y};
-    }
-    EXPECT_GT(moved, 10);
-}
-
 TEST_F(Frame, TheCursorIsWhiteOnAFreeSquareAndRedOnATakenOne)
 {
     // Near the cursor's edge on each start section.

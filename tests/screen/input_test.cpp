@@ -217,33 +217,23 @@ TEST_F(Keyboard, TabGoesRoundTheTeams)
     EXPECT_EQ(view.shownTeam, 2);
 }
 
+// The rider's team comes into view, in place of the fourth.
 TEST_F(Keyboard, FunctionKeysLayTheCardsOfTheRiderOnTurn)
 {
-    struct Case {
-        const char* what;
-        int rider, round;
-        std::initializer_list<int> keys;
-        Pair cards;
-        int shownTeam; // his comes into view, in place of the fourth
+    const auto laidBy = [&](int rider, std::initializer_list<int> keys, int round = 2) {
+        putPersonOnTurn(rider, FLAT);
+        race.roundNumber = round;
+        view.shownTeam = 3;
+        player.special(keys);
+        return std::pair(race.playedCards, view.shownTeam);
     };
-    const Case cases[] = {
-        {"his own and the team's", 5, 2, {GLUT_KEY_F2, GLUT_KEY_F5}, {5, 10}, 1},
-        {"laid and taken back", 5, 2, {GLUT_KEY_F5, GLUT_KEY_F5}, {-1, -1}, 1},
-        {"a team-mate's, and none won yet", 5, 2, {GLUT_KEY_F3, GLUT_KEY_F9}, {-1, -1}, 3},
-        {"four of the first rider", 0, 2, {GLUT_KEY_F3, GLUT_KEY_F4}, {2, 3}, 0},
-        {"behind the last rider's two", 7, 2, {GLUT_KEY_F3}, {-1, -1}, 3},
-        {"in the first round", 0, 1, {GLUT_KEY_F1}, {-1, -1}, 3},
-    };
-    for (const Case& c : cases) {
-        putPersonOnTurn(c.rider, FLAT);
-        race.roundNumber = c.round;
-        for (const int key : c.keys) {
-            view.shownTeam = 3;
-            player.special(key);
-        }
-        EXPECT_EQ(race.playedCards, c.cards) << c.what;
-        EXPECT_EQ(view.shownTeam, c.shownTeam) << c.what;
-    }
+    using Laid = std::pair<Pair, int>;
+    EXPECT_EQ(laidBy(5, {GLUT_KEY_F2, GLUT_KEY_F5}), (Laid{{5, 10}, 1})) << "his and the team's";
+    EXPECT_EQ(laidBy(5, {GLUT_KEY_F5, GLUT_KEY_F5}), (Laid{NO_CARDS, 1})) << "taken back";
+    EXPECT_EQ(laidBy(5, {GLUT_KEY_F3, GLUT_KEY_F9}), (Laid{NO_CARDS, 3})) << "not his";
+    EXPECT_EQ(laidBy(0, {GLUT_KEY_F3, GLUT_KEY_F4}), (Laid{{2, 3}, 0})) << "the first has four";
+    EXPECT_EQ(laidBy(7, {GLUT_KEY_F3}), (Laid{NO_CARDS, 3})) << "the last has two";
+    EXPECT_EQ(laidBy(0, {GLUT_KEY_F1}, 1), (Laid{NO_CARDS, 3})) << "in the first round";
 }
 
 TEST_F(Keyboard, ArrowsSteerAndEnterEndsTheMove)

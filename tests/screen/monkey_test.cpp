@@ -42,9 +42,11 @@ public:
         else if (what == 9)
             player.key(below(10) == 0 ? static_cast<char>(below(256)) : oneOf(KEYS));
         else if (what == 10)
-            pressSpecialKey();
+            player.special(below(3) == 0 ? GLUT_KEY_F1 + below(12) : GLUT_KEY_LEFT + below(9));
+        else if (below(40) == 0)
+            resizeScreen(200 + below(500), 200 + below(500));
         else
-            below(40) == 0 ? resize() : letTimePass();
+            letTimePass();
     }
 
 private:
@@ -64,13 +66,6 @@ private:
                 static_cast<float>(below(layout.windowH + 40) - 20 - layout.viewY)};
     }
 
-    void pressSpecialKey()
-    {
-        const int key = below(3) == 0 ? GLUT_KEY_F1 + below(12) : GLUT_KEY_LEFT + below(9);
-        for (int times = below(4); times >= 0; --times)
-            player.special(key);
-    }
-
     // Left to himself he would hardly ever come to a race, and quit it as soon as he had.
     void doTheSensibleThing()
     {
@@ -85,12 +80,7 @@ private:
         if (gameState == STATE_RACE_FILES)
             clickOn(
                 Spot(raceListNames().x + 15.0f, raceListNames().y + static_cast<float>(below(40))));
-        clickOnLive();
-    }
-
-    // Mostly "OK", "Yes", "Throw" or "Next"; where there is nothing of the kind he waits.
-    void clickOnLive()
-    {
+        // Mostly "OK", "Yes", "Throw" or "Next"; where there is nothing of the kind he waits.
         std::vector<Control> live = everyControl();
         std::erase_if(live, [](Control it) {
             return !isLive(it) || (it >= CONTROL_TAB_1 && it <= CONTROL_CAMERA);
@@ -104,13 +94,6 @@ private:
     {
         for (int ticks = below(60); ticks > 0 && runTick(); --ticks) {
         }
-    }
-
-    void resize()
-    {
-        constexpr int sizes[][2] = {{640, 512}, {640, 480}, {800, 500}, {500, 500}, {320, 200}};
-        const int size = below(5);
-        resizeScreen(sizes[size][0], sizes[size][1]);
     }
 
     // Most often with the left button, and without moving it meanwhile.

@@ -1,10 +1,8 @@
 #include "play/movement.h"
-#include "race/event_deck.h"
 #include "screen/support/drawn_texts.h"
 #include "screen/support/player.h"
 #include "screen/support/scenes.h"
 #include "support/scripted_rand.h"
-#include "ui/event_texts.h"
 
 // What the race says in words, numbers and colours: the panel, the dialogs and the positions.
 
@@ -143,38 +141,4 @@ TEST_F(RaceWords, NameTheRaceThatRunsAndWhatIsKnownOfEachRider)
     raceSetup.multiStage = false;
     race.riders[4].isHuman = 0;
     EXPECT_TRUE(screenSays("Single stage") && screenSays("Computer player"));
-}
-
-TEST_F(RaceWords, RidersOffTheBoardAreDimAndFinishersGone)
-{
-    startSeededRace(ONE_LAP, 3);
-    for (int rider = 0; rider < RIDER_COUNT; ++rider)
-        race.riders[rider].finished = rider > 2;
-    race.riders[1].offBoard = 1;
-    race.sprintWinner = 2;
-    gameState = STATE_POSITIONS;
-    drawnTexts();
-    const Image image = screenshot();
-    float x = 1280.0f * 0.35f;
-    for (const Colour& colour : {teamColour[0], teamColourDim[0], YELLOW, panelBlue}) {
-        EXPECT_EQ(image.at(x, 1024.0f * 0.82f + 9.0f), pixelOf(colour)) << x;
-        x += 1280.0f * 0.1f;
-    }
-}
-
-// A card has words in each language; those for which there is no title show what they do.
-TEST_F(RaceWords, EveryEventCardHasThemInTheLanguage)
-{
-    const std::vector<int> untitled[] = {{19}, {18, 19}, {18, 19}, {}};
-    const char* crash[] = {"der Verursacher:", "the perpetrator:", "l'auteur:", "de veroorzaker:"};
-    for (int& language = settings.language = 0; language < LANGUAGE_COUNT; ++language) {
-        std::vector<int> without;
-        for (int card = 0; card < EVENT_CARD_COUNT; ++card) {
-            EXPECT_FALSE(eventEffect(card).empty()) << card;
-            if (eventTitle(card).empty())
-                without.push_back(card);
-        }
-        EXPECT_EQ(without, untitled[language]) << language;
-        EXPECT_EQ(eventEffect(14)[0], crash[language]);
-    }
 }

@@ -1,13 +1,12 @@
 #include "store/race_file.h"
 
-#include "board/course.h"
 #include "store/golden_files.h"
 #include "support/own_folder.h"
+#include "support/races.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <chrono>
 #include <cstring>
 #include <sys/stat.h>
 
@@ -19,20 +18,11 @@ namespace fs = std::filesystem;
 constexpr std::size_t HEAD_SIZE = 57;
 constexpr std::size_t STAGE_SIZE = 116;
 
-void forgetRace()
-{
-    race = {};
-    raceSetup = {};
-    racePreview = {};
-    courseText.clear();
-}
-
 // Each test in an empty folder, with no race in memory.
 class RaceFile : public testing::Test
 {
 protected:
-    void SetUp() override { forgetRace(); }
-    void TearDown() override { forgetRace(); }
+    void SetUp() override { forgetGame(); }
 
     OwnFolder folder;
     const std::string golden = goldenBytes("two_stages.race");
@@ -116,7 +106,7 @@ TEST_F(RaceFile, CutShortItKeepsWhatIsWhole)
     readRace("r.race");
     EXPECT_EQ(raceSetup.raceStages.size(), 1u);
 
-    forgetRace();
+    forgetGame();
     raceSetup.teamName[1] = "Mine";
     putBytes("r.race", golden.substr(0, 20)); // within the second name
     readRace("r.race");
@@ -169,19 +159,4 @@ TEST_F(RaceFile, TheListHoldsFilesWithTheExtension)
     std::ranges::sort(listed);
     EXPECT_EQ(listed,
               (std::vector<std::string>{"%n\xFF.race", "a.race", "a.race.race", "link.race"}));
-}
-
-TEST_F(RaceFile, TheListGrowsStaleWhenTheFolderChanges)
-{
-    const auto list = [] { // a while after the last change
-        fs::last_write_time(".", fs::file_time_type::clock::now() - std::chrono::seconds(1));
-        listRaceFiles();
-        EXPECT_FALSE(raceListStale());
-    };
-    list();
-    putBytes("a.race", "x");
-    EXPECT_TRUE(raceListStale());
-    list();
-    fs::remove("a.race");
-    EXPECT_TRUE(raceListStale());
 }

@@ -13,19 +13,6 @@
 namespace
 {
 
-// Stands in an empty folder of its own.
-class SettingsFile : public testing::Test
-{
-protected:
-    void TearDown() override
-    {
-        settings = {};
-        raceSetup = {};
-    }
-
-    OwnFolder folder;
-};
-
 constexpr Settings KNOWN = {LANGUAGE_FRENCH, 0, 999, 12.5f, 7, 4.0, 3.0};
 
 // Reads the known file with this value in the place of its own.
@@ -37,8 +24,9 @@ template <typename Value> void readWith(std::size_t at, Value value)
     readSettings();
 }
 
-TEST_F(SettingsFile, IsOf82BytesAndKeepsEveryFieldInItsPlace)
+TEST(SettingsFile, IsOf82BytesAndKeepsEveryFieldInItsPlace)
 {
+    const OwnFolder folder;
     const Table<std::string, TEAM_COUNT> names = {"Twelve chars", "Z\xFCrich", "", "D"};
     settings = KNOWN;
     raceSetup.teamName = names;
@@ -56,8 +44,9 @@ TEST_F(SettingsFile, IsOf82BytesAndKeepsEveryFieldInItsPlace)
     EXPECT_EQ(raceSetup.teamName[0], "");
 }
 
-TEST_F(SettingsFile, ValuesOutOfRangeGetTheirStartValues)
+TEST(SettingsFile, ValuesOutOfRangeGetTheirStartValues)
 {
+    const OwnFolder folder;
     readWith(0, '\4');
     EXPECT_EQ(settings, (Settings{LANGUAGE_ENGLISH, 0, 999, 12.5f, 7, 4.0, 3.0}));
     readWith(1, '\2');
@@ -78,8 +67,9 @@ TEST_F(SettingsFile, ValuesOutOfRangeGetTheirStartValues)
     }
 }
 
-TEST_F(SettingsFile, ShortFilesKeepWhatTheyHold)
+TEST(SettingsFile, ShortFilesKeepWhatTheyHold)
 {
+    const OwnFolder folder;
     const std::string whole = goldenBytes("settings");
     putBytes("settings", whole.substr(0, 34));
     readSettings();

@@ -10,21 +10,30 @@
 #include "play/start.h"
 #include "play/turn_cycle.h"
 #include "race/event_deck.h"
+#include "store/race_file.h"
 #include "support/fake_host.h"
 
 #include <cstdlib>
 
-void startSeededRace(std::string_view text, unsigned seed)
+void forgetGame()
 {
     installFakeHost();
     settings = {};
     raceSetup = {};
-    raceSetup.eventCardsOn = raceSetup.multiStage = false;
+    racePreview = {};
     course = {};
+    courseText.clear();
     race = {};
     deck = {};
     view = {};
     motion = {};
+    returnState = STATE_TRANSIT;
+}
+
+void startSeededRace(std::string_view text, unsigned seed)
+{
+    forgetGame();
+    raceSetup.eventCardsOn = raceSetup.multiStage = false;
     std::srand(seed);
     courseText = text;
     startRace();

@@ -33,6 +33,9 @@ struct Placed {
     bool hasMoved = false;
 };
 
+// As the game begins: no race, no names, nothing chosen, the fake host answering.
+void forgetGame();
+
 // A course with nobody on it but the riders given, in round 2, nobody on turn. All teams are
 // computer teams. Riders that are not named have finished long ago.
 void setUpRace(std::string_view text, const std::vector<Placed>& placed);

@@ -3,15 +3,9 @@
 
 #include "app/game_state.h"
 #include "app/host.h"
-#include "app/settings.h"
 #include "app/view.h"
-#include "board/course.h"
 #include "board/designer.h"
-#include "board/rider_motion.h"
-#include "race/event_deck.h"
-#include "race/race_state.h"
-#include "store/race_file.h"
-#include "support/fake_host.h"
+#include "support/races.h"
 #include "ui/frame.h"
 #include "ui/layout.h"
 #include "ui/loading.h"
@@ -74,23 +68,13 @@ void resizeScreen(int width, int height)
 
 void forgetEverything()
 {
-    installFakeHost();
-    settings = {};
+    forgetGame();
     settingsScreen = {};
     ratioChosenByProgram = false;
-    raceSetup = {};
     teamSetup = {};
     raceList = {};
-    racePreview = {};
-    course = {};
-    courseText.clear();
     courseScreens = {};
-    race = {};
-    deck = {};
-    view = {};
-    motion = {};
     manualPage = 0;
-    returnState = STATE_TRANSIT;
 }
 
 void startProgram(int width, int height)

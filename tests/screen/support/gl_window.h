@@ -16,7 +16,7 @@ void resizeScreen(int width, int height);
 // this size. The timer is the fake host's; whatever the rules want painted is painted.
 void startProgram(int width, int height);
 
-// All of that but the screen: no race, no names, nothing chosen, the fake host answering.
+// All of that but the screen.
 void forgetEverything();
 
 struct Pixel {
