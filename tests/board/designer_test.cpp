@@ -6,22 +6,6 @@
 
 #include <string>
 
-// The loop from "Start 1" on with these marks.
-static void design(std::string_view text)
-{
-    startDesign();
-    for (const char letter : text.substr(1)) {
-        if (letter == 'S')
-            toggleSprint();
-        else if (letter == 'F')
-            toggleFinish();
-        else
-            addSection();
-    }
-    addSection();
-    EXPECT_EQ(courseText, text);
-}
-
 TEST(Designer, OffersTheSectionsThatMayFollow)
 {
     startDesign();
@@ -60,7 +44,8 @@ TEST(Designer, TheFinishWinsOverASprintAndEndsTheDesign)
 
 TEST(Designer, TakesSectionsBackWithTheirMarks)
 {
-    design("012S3F");
+    startDesign();
+    courseText = "012S3F";
     const auto undo = [](const char* left, bool sprint, bool finish) {
         undoSection();
         EXPECT_EQ(courseText, left);

@@ -9,8 +9,7 @@ void installFakeHost()
 {
     fakeHost = {};
     moveTimerFired();
-    host = {.redraw = [] { ++fakeHost.redraws; },
-            .armTimer = [](int ms) { fakeHost.pendingMs = ms; },
+    host = {.armTimer = [](int ms) { fakeHost.pendingMs = ms; },
             .toggleFullScreen = [] { ++fakeHost.screenChanges; },
             .quit = [] { ++fakeHost.quits; }};
 }
@@ -19,14 +18,7 @@ bool runTick()
 {
     if (fakeHost.pendingMs < 0)
         return false;
-    fakeHost.clock += fakeHost.pendingMs;
     fakeHost.pendingMs = -1;
     onMoveTimer(0);
     return true;
-}
-
-void runTimer()
-{
-    while (runTick()) {
-    }
 }

@@ -151,12 +151,6 @@ void browse()
     courseText = readSavedCourse(1);
 }
 
-void chooseCourse()
-{
-    browse();
-    courseText.clear();
-}
-
 void place()
 {
     race.currentRider = 0;
@@ -254,12 +248,6 @@ void chooseFromList()
     readRacePreview(raceSetup.raceFileName);
 }
 
-void openStandings()
-{
-    chooseFromList();
-    raceSetup.standingsFileName = "standings.csv";
-}
-
 struct SceneRecord {
     const char* name;
     GameState state;
@@ -277,7 +265,7 @@ constexpr SceneRecord scenes[] = {
     {"teams",           STATE_TEAM_SETUP,          nothing,        setUpTeams},
     {"teams_named",     STATE_TEAM_SETUP,          nothing,        [] { setUpTeams(); raceSetup.multiStage = false; }},
     {"setup_message",   STATE_SETUP_MESSAGE,       nothing,        failSetup},
-    {"courses",         STATE_COURSE_SELECT,       nothing,        chooseCourse, STATE_TEAM_SETUP},
+    {"courses",         STATE_COURSE_SELECT,       nothing,        [] { browse(); courseText.clear(); }, STATE_TEAM_SETUP},
     {"design",          STATE_COURSE_DESIGN,       nothing,        design},
     {"design_finished", STATE_COURSE_DESIGN,       nothing,        finishDesign},
     {"saved",           STATE_COURSE_SAVED,        nothing,        browse},
@@ -311,7 +299,7 @@ constexpr SceneRecord scenes[] = {
     {"positions",       STATE_POSITIONS,           personsTurn,    nothing, STATE_TURN},
     {"races",           STATE_RACE_FILES,          nothing,        listRaces},
     {"race_chosen",     STATE_RACE_FILES,          nothing,        chooseFromList},
-    {"standings",       STATE_RACE_STANDINGS,      nothing,        openStandings, STATE_RACE_FILES},
+    {"standings",       STATE_RACE_STANDINGS,      nothing,        [] { chooseFromList(); raceSetup.standingsFileName = "standings.csv"; }, STATE_RACE_FILES},
 };
 // clang-format on
 static_assert(std::size(scenes) == static_cast<int>(Scene::STANDINGS) + 1);
