@@ -168,7 +168,7 @@ TEST_F(TeamSetupTest, ANewRaceNeedsANameThatIsNotTaken)
     EXPECT_EQ(raceSetup.standingsFileName, "standings.csv");
 }
 
-TEST_F(TeamSetupTest, FieldsAreGoneThroughBothWays)
+TEST_F(TeamSetupTest, FieldsAndBoxesAreGoneThroughBothWays)
 {
     player.click(CONTROL_START);
     const auto fieldAfter = [&](char key, int held) {
@@ -180,6 +180,10 @@ TEST_F(TeamSetupTest, FieldsAreGoneThroughBothWays)
     EXPECT_EQ(fieldAfter('\t', GLUT_ACTIVE_SHIFT), 3);
     EXPECT_EQ(fieldAfter('\t', 0), 4);
     EXPECT_EQ(fieldAfter('\r', 0), 0);
+    for (const int human : {1, 0}) {
+        player.click(CONTROL_COMPUTER_2);
+        EXPECT_EQ(race.riders[4].isHuman, human);
+    }
     player.click(raceNameBox());
     player.click(CONTROL_SINGLE_STAGE);
     EXPECT_EQ(teamSetup.teamActiveField, 3) << "the race has no name any more";

@@ -207,7 +207,7 @@ TEST_F(Keyboard, AltAndEnterChangeBetweenScreenAndWindowWhereverOneIs)
     EXPECT_NE(gameState, STATE_MOVE);
 }
 
-TEST_F(Keyboard, TabGoesRoundTheTeams)
+TEST_F(Keyboard, TabGoesRoundTheTeamsAndAClickGoesToOne)
 {
     startRaceOn(FROM_START_2);
     player.key('\t');
@@ -215,6 +215,10 @@ TEST_F(Keyboard, TabGoesRoundTheTeams)
     player.held = GLUT_ACTIVE_SHIFT;
     player.type("\t\t\t");
     EXPECT_EQ(view.shownTeam, 2);
+    for (int team = 0; team < TEAM_COUNT; ++team) {
+        player.click(static_cast<Control>(CONTROL_TAB_1 + team));
+        EXPECT_EQ(view.shownTeam, team);
+    }
 }
 
 // The rider's team comes into view, in place of the fourth.
