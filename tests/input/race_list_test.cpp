@@ -180,10 +180,11 @@ TEST_F(TeamSetupTest, FieldsAndBoxesAreGoneThroughBothWays)
     EXPECT_EQ(fieldAfter('\t', GLUT_ACTIVE_SHIFT), 3);
     EXPECT_EQ(fieldAfter('\t', 0), 4);
     EXPECT_EQ(fieldAfter('\r', 0), 0);
-    for (const int human : {1, 0}) {
-        player.click(CONTROL_COMPUTER_2);
-        EXPECT_EQ(race.riders[4].isHuman, human);
-    }
+    for (int team = 0; team < TEAM_COUNT; ++team)
+        for (const int human : {1, 0}) {
+            player.click(static_cast<Control>(CONTROL_COMPUTER_1 + team));
+            EXPECT_EQ(race.riders[team * RIDERS_PER_TEAM].isHuman, human);
+        }
     player.click(raceNameBox());
     player.click(CONTROL_SINGLE_STAGE);
     EXPECT_EQ(teamSetup.teamActiveField, 3) << "the race has no name any more";

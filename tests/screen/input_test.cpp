@@ -62,6 +62,7 @@ TEST_F(Mouse, ADoubleClickThatFinishesADesignStartsNoRace)
 {
     player.click({CONTROL_START, CONTROL_SINGLE_STAGE, CONTROL_TEAM_OK});
     view.viewMode = VIEW_PERSPECTIVE;
+    courseText = "67"; // raced last
     player.click(CONTROL_CREATE_COURSE);
     EXPECT_EQ(view.viewMode, VIEW_FLAT);
     player.doubleClick(CONTROL_ADD_SECTION);
@@ -80,6 +81,9 @@ TEST_F(Mouse, ADesignIsSavedOnceByADoubleClickAndAFailureIsForgottenByTheNextCli
     gameState = STATE_COURSE_DESIGN;
     player.doubleClick(CONTROL_SAVE_COURSE);
     EXPECT_EQ(std::filesystem::file_size("courses"), 48u);
+    player.click({CONTROL_DESIGN_BACK, CONTROL_SAVED_COURSE});
+    EXPECT_EQ(courseText, "012F") << "the first one";
+    gameState = STATE_COURSE_DESIGN;
     std::filesystem::remove("courses");
     std::filesystem::create_directory("courses");
     player.click(CONTROL_SAVE_COURSE);
