@@ -87,6 +87,8 @@ TEST(Placing, OneOfATeamInALane)
     EXPECT_FALSE(placeOn(1, 3)); // behind a team-mate
     EXPECT_FALSE(placeOn(3, 3));
     EXPECT_TRUE(placeOn(1, 2));
+    EXPECT_TRUE(placeOn(2, 2));
+    EXPECT_FALSE(placeOn(3, 2)); // in front of a team-mate in the last row
 }
 
 TEST(Placing, TheCursorStaysOnTheRoad)

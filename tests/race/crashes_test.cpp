@@ -27,8 +27,9 @@ TEST(Crash, ReachesOneRowBackButNotTheHigherLaneOfTheRowWhereItBegan)
               Riders{0})
         << "side lanes are looked at beside the rider, not diagonally behind";
     EXPECT_EQ(crashOf({{0, 7, 2}, {1, 6, 2}, {2, 6, 3}, {3, 6, 4}}), (Riders{0, 1, 2, 3}));
-    // Lane 1 has no square on row 12: straight behind row 13 lies row 11.
+    // Lane 1 has no square on row 12: straight behind row 13 lies row 11, and so far goes the side.
     EXPECT_EQ(crashOf({{0, 13, 1}, {1, 11, 1}}), (Riders{0, 1}));
+    EXPECT_EQ(crashOf({{0, 13, 1}, {1, 12, 2}, {2, 13, 2}}), (Riders{0, 1}));
     // Back in the row where it began the rule holds for whoever stands there.
     EXPECT_EQ(crashOf({{0, 7, 2}, {1, 7, 1}, {2, 6, 1}, {3, 6, 2}, {4, 5, 2}, {5, 5, 3}}),
               (Riders{0, 1, 2, 3, 4, 5}));

@@ -109,4 +109,8 @@ TEST(CloseStage, AStageOfSeveralIsAddedAndWritten)
     endStage(slots);
     EXPECT_EQ(gameState, STATE_SAVE_FAILED);
     EXPECT_EQ(raceSetup.raceStages.size(), 4u); // in memory it is there
+    fs::remove("Tour.race");
+    retrySave();
+    EXPECT_EQ(gameState, STATE_FINAL_SCORECARD);
+    EXPECT_EQ(fs::file_size("Tour.race"), 57u + 4 * 116);
 }
