@@ -41,7 +41,7 @@ void introduceWindow()
     putProperty(display, window, "_NET_WM_ICON", "CARDINAL", 32, ICON, std::size(ICON));
 }
 
-// OpenGL must have held another window meanwhile; letting go of the same one is no change.
+// Taking up the same window once more changes nothing, so OpenGL holds another one in between.
 void takeUpWindowAnew()
 {
     Display* display = glXGetCurrentDisplay();

@@ -104,6 +104,7 @@ TEST_F(SettingsScreenTest, CancelBringsBackTheGuess)
     resizeScreen(1600, 1000);
     player.click({CONTROL_MENU_SETTINGS, CONTROL_RATIO_1610, CONTROL_SETTINGS_OK});
     readSettings();
+    player.click({CONTROL_MENU_SETTINGS, CONTROL_SETTINGS_CANCEL});
     resizeScreen(1280, 1024);
     EXPECT_EQ(settings.ratioW, 16.0) << "chosen, though it is what had been guessed";
 }

@@ -35,6 +35,16 @@ TEST_F(Mouse, TheSecondHalfOfADoubleClickIsDroppedWhereAnotherControlHasComeUp)
     EXPECT_EQ(race.currentRider, 3) << "the next rider's has to be read";
 }
 
+TEST_F(Mouse, AWonCardIsUsedAtOnceOrKept)
+{
+    for (const Control control : {CONTROL_IMMEDIATELY, CONTROL_LATER}) {
+        setScene(Scene::CARD_WHEN, LANGUAGE_ENGLISH);
+        const int moves = race.moveBudget;
+        player.click(control);
+        EXPECT_EQ(race.moveBudget > moves, control == CONTROL_IMMEDIATELY);
+    }
+}
+
 TEST_F(Mouse, ThrowsForTheOrderAreAsQuickAsTheHand)
 {
     for (int team = 0; team < TEAM_COUNT; ++team)

@@ -124,6 +124,8 @@ TEST_F(Looks, TheCourseUnderThePointerHasAFrame)
     };
     player.hover(picture);
     EXPECT_GT(edge(), 0);
+    player.hover(Spot(picture.x + 9.0f, picture.y + picture.h + 25.0f)); // its caption
+    EXPECT_GT(edge(), 0);
     player.hover(coursePicture(1));
     EXPECT_EQ(edge(), 0);
 }

@@ -160,4 +160,14 @@ TEST_P(WriteFailures, ALinkStaysOneAndWhatItLeadsToKeepsItsPermissions)
     EXPECT_EQ(fs::status("away/kept").permissions(), fs::perms(0640));
 }
 
+TEST_P(WriteFailures, AProtectedFileIsLeftAlone)
+{
+    prepare(true);
+    fs::permissions(file, fs::perms(0444));
+    fs::permissions(".", fs::perms(0777));
+    const bool wasRoot = getuid() == 0 && setresuid(65534, 65534, 0) == 0; // whom nothing stops
+    EXPECT_FALSE(write());
+    EXPECT_TRUE(!wasRoot || setresuid(0, 0, 0) == 0);
+}
+
 INSTANTIATE_TEST_SUITE_P(Files, WriteFailures, testing::ValuesIn(WRITERS));

@@ -14,10 +14,10 @@ namespace
 constexpr const char* RIDERS[] = {"cyclist0.dat", "cyclist1.dat", "cyclist2.dat", "cyclist3.dat",
                                   "cyclist4.dat"};
 
-Picture load(const std::string& path, int width, int height, bool withAlpha = false)
+Picture load(const std::string& path, int width, int height)
 {
     Picture picture{width, height, 3, {}};
-    EXPECT_TRUE(loadPicture(path.c_str(), picture, withAlpha)) << path;
+    EXPECT_TRUE(loadPicture(path.c_str(), picture, false)) << path;
     return picture;
 }
 
@@ -25,7 +25,7 @@ Picture load(const std::string& path, int width, int height, bool withAlpha = fa
 // little from machine to machine; a line that has moved shows up in what it has left.
 void expectTheSame(const std::string& name, int width, int height)
 {
-    constexpr int NOISE_MAX = 48;
+    constexpr int NOISE_MAX = 24;
     const Picture given = load(SOURCE_DIR "/data/" + name, width, height);
     const Picture painted = load(name, width, height);
     ASSERT_EQ(given.bytes.size(), painted.bytes.size());
@@ -45,18 +45,4 @@ TEST(PaintedPictures, AreTheOnesThatTheGameIsGiven)
     expectTheSame("scorecard.dat", SCORECARD_PICTURE_SIZE, SCORECARD_PICTURE_SIZE);
     for (const char* name : RIDERS)
         expectTheSame(name, RIDER_PICTURE_SIZE, RIDER_PICTURE_SIZE);
-}
-
-// A pixel between figure and key colour would stand as a yellow speck beside the rider.
-TEST(PaintedPictures, RidersAreCutOutCleanly)
-{
-    for (const std::string name : RIDERS) {
-        const Picture rider =
-            load(SOURCE_DIR "/data/" + name, RIDER_PICTURE_SIZE, RIDER_PICTURE_SIZE, true);
-        for (std::size_t at = 0; at < rider.bytes.size(); at += 4) {
-            const std::uint8_t* const pixel = &rider.bytes[at];
-            EXPECT_FALSE(pixel[3] != 0 && pixel[0] > 200 && pixel[1] > 200 && pixel[2] < 80)
-                << name << " pixel " << at / 4;
-        }
-    }
 }

@@ -115,6 +115,14 @@ TEST(TextsTest, AreLatin1)
     EXPECT_EQ(latin1("cut short \xC3"), "cut short ?");
 }
 
+// What joins a text with a name or a number: blanks at its ends, and the mark within.
+std::string jointsOf(std::string_view words)
+{
+    const std::size_t mark = words.find('%');
+    return {words.front() == ' ' ? '_' : '.', words.back() == ' ' ? '_' : '.',
+            mark == words.npos ? '.' : words[mark + 1]};
+}
+
 // A text with a letter that its font can't draw shows the reader a wrong letter.
 void expectDrawable(std::string_view text, Font font)
 {
@@ -127,8 +135,11 @@ void expectDrawable(std::string_view text, Font font)
 TEST(TextsTest, EveryLetterHasAGlyphInItsFont)
 {
     for (const Language* language : {&GERMAN, &ENGLISH, &FRENCH, &DUTCH}) {
-        for (const TextEntry& entry : language->words)
+        const TextEntry* english = ENGLISH.words.data();
+        for (const TextEntry& entry : language->words) {
             expectDrawable(latin1(entry.words), FONT_BODY);
+            EXPECT_EQ(jointsOf(entry.words), jointsOf((english++)->words)) << entry.words;
+        }
         for (const std::string_view name : language->teamNames) {
             expectDrawable(latin1(name), FONT_TITLE);
             EXPECT_LE(latin1(name).size(), static_cast<std::size_t>(NAME_LENGTH_MAX)) << name;
@@ -139,14 +150,17 @@ TEST(TextsTest, EveryLetterHasAGlyphInItsFont)
         for (const std::string& title : {texts.mainMenuTitle, texts.teamSetupTitle,
                                          texts.courseSelectionTitle, texts.settings})
             expectDrawable(title, FONT_TITLE);
-        int untitled = 0; // cards that show what they do alone
+        int untitled = 0;  // cards that show what they do alone
+        std::string kinds; // where cards begin that do something else
         for (int card = 0; card < EVENT_CARD_COUNT; ++card) {
             untitled += eventTitle(card).empty();
+            kinds += card == 0 || eventEffect(card) != eventEffect(card - 1) ? 'x' : '.';
             for (const auto& lines : {eventTitle(card), eventEffect(card)})
                 for (const std::string& line : lines)
                     expectDrawable(line, FONT_BODY);
         }
         EXPECT_EQ(untitled, (Table<int, LANGUAGE_COUNT>{1, 2, 2, 0}[language])) << language;
+        EXPECT_EQ(kinds, "x....x......x.xx..x..xxx.x.x.x") << language;
         expectDrawable(languageNames[language], FONT_SERIF);
         expectDrawable(manualText, FONT_TITLE);
         // A quote measures 0, so the word behind it would be drawn over it.

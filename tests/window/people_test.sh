@@ -77,6 +77,7 @@ xdotool key e
 expectEnd
 
 openbox --exit
+until ! pgrep -P $PPID -x openbox > /dev/null; do sleep 0.05; done
 startGame "$1" "$2"
 xdotool key s
 until_ 5 "the team setup" setupOpen
