@@ -70,10 +70,7 @@ playInstalled()
     before=$(look)
     click throw
     until_ 5 "a throw" lookChanged "$before"
-    click quit
-    until_ 5 "the question" dialogOpen
-    click yes
-    until_ 5 "the main menu" pixelIs startEdge B2B2B2
+    quitRace
     click corner
     expectEnd
 }
