@@ -25,14 +25,14 @@ Picture load(const std::string& path, int width, int height)
 // little from machine to machine; a line that has moved shows up in what it has left.
 void expectTheSame(const std::string& name, int width, int height)
 {
-    constexpr int NOISE_MAX = 24;
+    constexpr int NOISE_MAX = 12;
     const Picture given = load(SOURCE_DIR "/data/" + name, width, height);
     const Picture painted = load(name, width, height);
     ASSERT_EQ(given.bytes.size(), painted.bytes.size());
     std::size_t moved = 0;
     for (std::size_t i = 0; i < given.bytes.size(); ++i)
         moved += std::abs(given.bytes[i] - painted.bytes[i]) > NOISE_MAX;
-    EXPECT_LT(moved, 40u) << name;
+    EXPECT_LT(moved, 10u) << name;
 }
 
 } // namespace

@@ -132,7 +132,7 @@ void expectDrawable(std::string_view text, Font font)
     }
 }
 
-TEST(TextsTest, EveryLetterHasAGlyphInItsFont)
+TEST(TextsTest, CanBeDrawnAndAreJoinedAlikeInEveryLanguage)
 {
     for (const Language* language : {&GERMAN, &ENGLISH, &FRENCH, &DUTCH}) {
         const TextEntry* english = ENGLISH.words.data();
@@ -150,7 +150,7 @@ TEST(TextsTest, EveryLetterHasAGlyphInItsFont)
         for (const std::string& title : {texts.mainMenuTitle, texts.teamSetupTitle,
                                          texts.courseSelectionTitle, texts.settings})
             expectDrawable(title, FONT_TITLE);
-        int untitled = 0;  // cards that show what they do alone
+        int untitled = 0;  // cards without a title
         std::string kinds; // where cards begin that do something else
         for (int card = 0; card < EVENT_CARD_COUNT; ++card) {
             untitled += eventTitle(card).empty();
